@@ -1,0 +1,36 @@
+#include <nui/Sorrel/Template/SrTemplate.h>
+
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QLabel>
+
+namespace Vexa {
+
+namespace {
+// Captions share one width, so that the fields of the rows of a panel stand in one column.
+constexpr int captionWidthInCharacters = 12;
+}
+
+TemplateWidget::TemplateWidget(const QString &title, QWidget *parent)
+    : QWidget(parent)
+    , m_caption(new QLabel(this))
+    , m_fields(new QHBoxLayout)
+{
+    m_caption->setMinimumWidth(fontMetrics().averageCharWidth() * captionWidthInCharacters);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_caption);
+    row->addLayout(m_fields, 1);
+    setTitle(title);
+}
+
+QString TemplateWidget::title() const { return m_caption->text(); }
+
+void TemplateWidget::setTitle(const QString &title)
+{
+    m_caption->setText(title);
+    m_caption->setVisible(!title.isEmpty());
+}
+
+void TemplateWidget::addField(QWidget *field, int stretch) { m_fields->addWidget(field, stretch); }
+
+} // namespace Vexa

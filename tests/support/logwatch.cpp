@@ -1,0 +1,65 @@
+#include "logwatch.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <algorithm>
+
+namespace {
+
+struct State {
+    QtMessageHandler previous = nullptr;
+    QVector<QRegularExpression> allowed;
+    QStringList unexpected;
+    QStringList all;
+};
+
+State *state = nullptr;
+
+bool isPlatformNoise(const QString &message)
+{
+    return message == QLatin1String("This plugin does not support propagateSizeHints()")
+        || message.startsWith(QLatin1String("QStandardPaths:"));
+}
+
+void handle(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (type == QtFatalMsg)
+        state->previous(type, context, message);
+    if (isPlatformNoise(message))
+        return;
+    state->all += message;
+    const bool expected = std::any_of(state->allowed.cbegin(), state->allowed.cend(),
+        [&message](const QRegularExpression &pattern) { return pattern.match(message).hasMatch(); });
+    if (!expected)
+        state->unexpected += message;
+}
+
+} // namespace
+
+LogWatch::LogWatch()
+{
+    Q_ASSERT(!state);
+    state = new State;
+    state->previous = qInstallMessageHandler(handle);
+}
+
+LogWatch::~LogWatch()
+{
+    qInstallMessageHandler(state->previous);
+    delete state;
+    state = nullptr;
+}
+
+void LogWatch::allow(const QString &pattern)
+{
+    state->allowed += QRegularExpression(QRegularExpression::anchoredPattern(pattern));
+}
+
+QStringList LogWatch::takeUnexpected()
+{
+    const QStringList messages = state->unexpected;
+    state->unexpected.clear();
+    return messages;
+}
+
+QStringList LogWatch::all() const { return state->all; }
