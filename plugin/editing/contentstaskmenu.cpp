@@ -1,0 +1,36 @@
+#include "contentstaskmenu.h"
+
+#include <QtWidgets/QAction>
+#include <QtWidgets/QUndoStack>
+
+ContentsTaskMenu::ContentsTaskMenu(const QString &actionText, QWidget *control, QObject *parent)
+    : QObject(parent)
+    , m_editAction(new QAction(actionText, this))
+    , m_control(control)
+{
+    connect(m_editAction, SIGNAL(triggered()), this, SLOT(editItems()));
+}
+
+QAction *ContentsTaskMenu::preferredEditAction() const { return m_editAction; }
+
+QList<QAction *> ContentsTaskMenu::taskActions() const { return {m_editAction}; }
+
+bool ContentsTaskMenu::findForm()
+{
+    m_formWindow = m_control ? QDesignerFormWindowInterface::findFormWindow(m_control) : nullptr;
+    return m_formWindow;
+}
+
+bool ContentsTaskMenu::run(QDialog *dialog)
+{
+    const bool managed = m_formWindow->isManaged(m_control);
+    const QPointer<ContentsTaskMenu> self = this;
+    const QPointer<QDialog> running = dialog;
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (!accepted || !self || !running || !m_formWindow || !m_control)
+        return false;
+    // A control whose creation was undone meanwhile waits for its redo, which a new command would cut off.
+    return m_formWindow->isManaged(m_control) == managed;
+}
+
+void ContentsTaskMenu::push(QUndoCommand *command) { m_formWindow->commandHistory()->push(command); }
