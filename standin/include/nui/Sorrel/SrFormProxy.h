@@ -1,0 +1,31 @@
+#pragma once
+
+#include <nui/Sorrel/SrGlobal.h>
+
+#include <QtWidgets/QWidget>
+
+namespace Vexa {
+
+/// Keeps the place of a form that the application puts in at run time, and shows its name until then.
+class SORREL_EXPORT FormProxy : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(QString formName READ formName WRITE setFormName NOTIFY formNameChanged)
+
+public:
+    explicit FormProxy(QWidget *parent = nullptr);
+
+    QString formName() const { return m_formName; }
+    void setFormName(const QString &name);
+    QSize sizeHint() const override;
+
+Q_SIGNALS:
+    void formNameChanged(const QString &name);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_formName;
+};
+
+} // namespace Vexa

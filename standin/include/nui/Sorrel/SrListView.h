@@ -1,0 +1,17 @@
+#pragma once
+
+#include <nui/Sorrel/SrGlobal.h>
+
+#include <QtWidgets/QListView>
+
+namespace Vexa {
+
+/// A list of a model's rows, in the dress of the panels.
+class SORREL_EXPORT ListView : public QListView {
+    Q_OBJECT
+
+public:
+    explicit ListView(QWidget *parent = nullptr);
+};
+
+} // namespace Vexa

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <nui/Sorrel/SrGlobal.h>
+
+#include <QtWidgets/QTableWidget>
+
+namespace Vexa {
+
+/// A table with items of its own, in the dress of the panels.
+class SORREL_EXPORT TableWidget : public QTableWidget {
+    Q_OBJECT
+
+public:
+    explicit TableWidget(QWidget *parent = nullptr);
+};
+
+} // namespace Vexa

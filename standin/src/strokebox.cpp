@@ -1,0 +1,74 @@
+#include "strokebox.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QStylePainter>
+#include <QtWidgets/QStyledItemDelegate>
+
+namespace Vexa {
+
+namespace {
+
+constexpr int strokeLength = 56;
+constexpr int margin = 4;
+
+void drawItem(
+    QPainter *painter, const QRect &rect, const QVariant &stroke, const QString &text, const QColor &ink)
+{
+    const QRect inside = rect.adjusted(margin, 0, -margin, 0);
+    QPen pen = stroke.value<QPen>();
+    pen.setColor(ink);
+    pen.setCapStyle(Qt::FlatCap);
+    painter->setPen(pen);
+    const int middle = inside.center().y() + 1;
+    painter->drawLine(inside.left(), middle, inside.left() + strokeLength, middle);
+    const QRect textRect = inside.adjusted(strokeLength + 2 * margin, 0, 0, 0);
+    const QString shown = painter->fontMetrics().elidedText(text, Qt::ElideRight, textRect.width());
+    painter->setPen(ink);
+    painter->drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft, shown);
+}
+
+class StrokeDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const bool selected = option.state & QStyle::State_Selected;
+        painter->save();
+        if (selected)
+            painter->fillRect(option.rect, option.palette.highlight());
+        drawItem(painter, option.rect, index.data(strokeRole), index.data().toString(),
+            option.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
+        painter->restore();
+    }
+};
+
+} // namespace
+
+StrokeBox::StrokeBox(QWidget *owner)
+    : QComboBox(owner)
+{
+    setItemDelegate(new StrokeDelegate(this));
+    auto *layout = new QVBoxLayout(owner);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(this);
+    owner->setFocusProxy(this);
+    owner->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+QSize StrokeBox::sizeHint() const { return QComboBox::sizeHint() + QSize(strokeLength + 3 * margin, 0); }
+
+void StrokeBox::paintEvent(QPaintEvent *)
+{
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect field
+        = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    drawItem(&painter, field, currentData(strokeRole), currentText(),
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+}
+
+} // namespace Vexa
