@@ -1,0 +1,155 @@
+#include "itemlisteditor.h"
+#include "ui_itemlisteditor.h"
+
+#include <private/iconloader_p.h>
+#include <private/qdesigner_utils_p.h>
+
+#include <QtCore/QScopedValueRollback>
+
+namespace qdesigner_internal {
+
+ItemListEditor::ItemListEditor(QDesignerFormWindowInterface *form, QWidget *parent)
+    : AbstractItemEditor(form, parent)
+    , ui(std::make_unique<Ui::ItemListEditor>())
+{
+    ui->setupUi(this);
+    injectPropertyBrowser(this, ui->widget);
+    connect(ui->showPropertiesButton, SIGNAL(clicked()), this, SLOT(togglePropertyBrowser()));
+    setPropertyBrowserVisible(false, ui->showPropertiesButton);
+
+    ui->moveListItemUpButton->setIcon(createIconSet(QStringLiteral("up.png")));
+    ui->moveListItemDownButton->setIcon(createIconSet(QStringLiteral("down.png")));
+    ui->deleteListItemButton->setIcon(createIconSet(QStringLiteral("minus.png")));
+    ui->newListItemButton->setIcon(createIconSet(QStringLiteral("plus.png")));
+}
+
+ItemListEditor::~ItemListEditor() = default;
+
+void ItemListEditor::setupEditor(QWidget *object, const PropertyDefinition *table)
+{
+    AbstractItemEditor::setupEditor(object, table);
+    if (ui->listWidget->count() > 0)
+        ui->listWidget->setCurrentRow(0);
+    updateEditor();
+}
+
+QListWidget *ItemListEditor::listWidget() const { return ui->listWidget; }
+
+void ItemListEditor::setCurrentIndex(int index)
+{
+    const QScopedValueRollback<bool> updating(m_updatingIndex, true);
+    ui->listWidget->setCurrentRow(index);
+}
+
+void ItemListEditor::on_newListItemButton_clicked()
+{
+    const int row = ui->listWidget->currentRow() + 1;
+    auto *item = new QListWidgetItem(m_newItemText);
+    item->setData(Qt::DisplayPropertyRole, QVariant::fromValue(PropertySheetStringValue(m_newItemText)));
+    item->setFlags(item->flags() | Qt::ItemIsEditable);
+    ui->listWidget->insertItem(row, item);
+    emit itemInserted(row);
+
+    ui->listWidget->setCurrentItem(item);
+    ui->listWidget->editItem(item);
+}
+
+void ItemListEditor::on_deleteListItemButton_clicked()
+{
+    const int row = ui->listWidget->currentRow();
+    if (row < 0)
+        return;
+    delete ui->listWidget->takeItem(row);
+    emit itemDeleted(row);
+    // The current item changed before the count did.
+    updateEditor();
+}
+
+void ItemListEditor::on_moveListItemUpButton_clicked()
+{
+    const int row = ui->listWidget->currentRow();
+    if (row <= 0)
+        return;
+    moveCurrentItem(-1);
+    emit itemMovedUp(row);
+}
+
+void ItemListEditor::on_moveListItemDownButton_clicked()
+{
+    const int row = ui->listWidget->currentRow();
+    if (row < 0 || row >= ui->listWidget->count() - 1)
+        return;
+    moveCurrentItem(1);
+    emit itemMovedDown(row);
+}
+
+void ItemListEditor::moveCurrentItem(int distance)
+{
+    const int row = ui->listWidget->currentRow();
+    ui->listWidget->insertItem(row + distance, ui->listWidget->takeItem(row));
+    ui->listWidget->setCurrentRow(row + distance);
+}
+
+void ItemListEditor::on_listWidget_currentRowChanged()
+{
+    updateEditor();
+    if (!m_updatingIndex)
+        emit indexChanged(ui->listWidget->currentRow());
+}
+
+// An item was renamed in place: its text is the new text of the string that it holds.
+void ItemListEditor::on_listWidget_itemChanged(QListWidgetItem *item)
+{
+    if (m_updatingBrowser)
+        return;
+    const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
+    auto text = item->data(Qt::DisplayPropertyRole).value<PropertySheetStringValue>();
+    text.setValue(item->text());
+    const QVariant value = QVariant::fromValue(text);
+    item->setData(Qt::DisplayPropertyRole, value);
+    emit itemChanged(ui->listWidget->currentRow(), Qt::DisplayPropertyRole, value);
+    updateBrowser();
+}
+
+void ItemListEditor::togglePropertyBrowser()
+{
+    setPropertyBrowserVisible(!isPropertyBrowserVisible(), ui->showPropertiesButton);
+}
+
+void ItemListEditor::setItemData(int role, const QVariant &value)
+{
+    QListWidgetItem *item = ui->listWidget->currentItem();
+    if (!item)
+        return;
+    item->setData(role, value);
+    emit itemChanged(ui->listWidget->currentRow(), role, value);
+}
+
+QVariant ItemListEditor::getItemData(int role) const
+{
+    const QListWidgetItem *item = ui->listWidget->currentItem();
+    return item ? item->data(role) : QVariant();
+}
+
+int ItemListEditor::defaultItemFlags() const { return QListWidgetItem().flags(); }
+
+void ItemListEditor::cacheReloaded()
+{
+    AbstractItemEditor::cacheReloaded();
+    const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
+    reloadIconResources(iconCache(), ui->listWidget);
+}
+
+void ItemListEditor::updateEditor()
+{
+    const int row = ui->listWidget->currentRow();
+    ui->deleteListItemButton->setEnabled(row >= 0);
+    ui->moveListItemUpButton->setEnabled(row > 0);
+    ui->moveListItemDownButton->setEnabled(row >= 0 && row < ui->listWidget->count() - 1);
+    if (row >= 0)
+        updateBrowser();
+    else
+        clearBrowser();
+}
+
+} // namespace qdesigner_internal
