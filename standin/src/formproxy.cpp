@@ -25,6 +25,8 @@ QSize FormProxy::sizeHint() const
     return {qMin(fontMetrics().horizontalAdvance(m_formName) + 40, 400), 60};
 }
 
+QSize FormProxy::minimumSizeHint() const { return {40, fontMetrics().height() + 8}; }
+
 void FormProxy::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);

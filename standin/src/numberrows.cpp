@@ -19,7 +19,8 @@ NumberRow::NumberRow(
 {
     m_box->setDecimals(3);
     m_box->setRange(minimum, maximum);
-    m_box->setMinimumWidth(60);
+    // A box asks for the room of its limits, which numbers hardly ever come near.
+    m_box->setMinimumWidth(m_box->fontMetrics().averageCharWidth() * 10);
     setUnit(unit);
     addField(m_box, 1);
     setFocusProxy(m_box);
@@ -108,6 +109,7 @@ Slider::Slider(QWidget *parent)
     , m_slider(new QSlider(Qt::Horizontal, this))
 {
     m_slider->setRange(0, sliderSteps);
+    setDecimals(0);
     fields()->insertWidget(0, m_slider, 2);
     connect(m_slider, &QSlider::valueChanged, this,
         [this](int position) { setValue(sliderValue(position, minimum(), maximum())); });

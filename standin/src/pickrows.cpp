@@ -44,8 +44,11 @@ void PickRow::addPickButton(const QString &prompt, Qt::Orientation orientation)
     m_buttons->setSpacing(0);
     m_buttons->addWidget(m_pick);
     fields()->addLayout(m_buttons);
-    if (column)
+    if (column) {
         m_buttons->addStretch(1);
+        // Beside a tall field the caption stands at the top.
+        layout()->itemAt(0)->setAlignment(Qt::AlignTop);
+    }
     setPrompt(prompt);
 }
 
@@ -120,6 +123,8 @@ Window::Window(QWidget *parent)
 {
     auto *grid = new QGridLayout;
     grid->setSpacing(2);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(2, 1);
     fields()->addLayout(grid, 1);
     m_first = addCorner(grid, tr("From"));
     m_second = addCorner(grid, tr("To"));

@@ -68,6 +68,9 @@ QToolButton *SelectList::addButton(QBoxLayout *column, Qt::ArrowType arrow, cons
     return button;
 }
 
+// Two lists beside each other would ask for more than a panel has.
+QSize SelectList::sizeHint() const { return {300, 140}; }
+
 QStringList SelectList::available() const { return textsOf(m_available); }
 
 void SelectList::setAvailable(const QStringList &texts)

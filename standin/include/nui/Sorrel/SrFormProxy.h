@@ -17,6 +17,7 @@ public:
     QString formName() const { return m_formName; }
     void setFormName(const QString &name);
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     void formNameChanged(const QString &name);

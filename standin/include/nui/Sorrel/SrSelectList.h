@@ -24,6 +24,7 @@ public:
     void setAvailable(const QStringList &texts);
     QStringList selected() const;
     void setSelected(const QStringList &texts);
+    QSize sizeHint() const override;
 
 Q_SIGNALS:
     void availableChanged(const QStringList &texts);
