@@ -1,0 +1,135 @@
+#pragma once
+
+#include <nui/Sorrel/SrGlobal.h>
+
+#include <QtCore/QHash>
+#include <QtCore/QList>
+#include <QtWidgets/QWidget>
+
+class QScrollBar;
+
+namespace Vexa {
+
+/// A box with a title bar and one page, which can be drawn back to the bar. The title is the window title of
+/// the page.
+class SORREL_EXPORT DrawbackBox : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(bool expanded READ isExpanded WRITE setExpanded NOTIFY expandedChanged)
+
+public:
+    explicit DrawbackBox(QWidget *parent = nullptr);
+
+    /// Null without a page, and after the page was deleted or moved to another parent.
+    QWidget *widget() const { return m_page; }
+    /// The box becomes the parent of the page. The page before it is hidden and belongs to nobody; null only
+    /// takes that one out.
+    void setWidget(QWidget *page);
+
+    QString title() const;
+    bool isExpanded() const { return m_expanded; }
+    void setExpanded(bool expanded);
+
+    int headerHeight() const;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    /// The title bar was clicked, or activated by the keyboard. A box outside a group then draws itself back
+    /// or out.
+    void headerActivated();
+    void expandedChanged(bool expanded);
+    void titleChanged(const QString &title);
+    /// The page was deleted or moved away by somebody else.
+    void widgetLost();
+
+protected:
+    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void childEvent(QChildEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void activateHeader();
+    void placePage();
+
+    QWidget *m_page = nullptr;
+    QString m_title;
+    bool m_expanded = true;
+};
+
+/// Pages in drawback boxes below each other, of which the current one is drawn out.
+///
+/// The group is the parent of its boxes, and each box of its page. Nothing here deletes a page or a box: a
+/// removed page stays a hidden child of the group until its user takes it away or puts it back, in which case
+/// it gets its old box again; a box that replaceBoxes() leaves out belongs to nobody. So a history of changes
+/// may hold both kinds of pointers. Pages and boxes that somebody else deletes leave the group by themselves.
+class SORREL_EXPORT DrawbackBoxGroup : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex NOTIFY currentIndexChanged)
+
+public:
+    explicit DrawbackBoxGroup(QWidget *parent = nullptr);
+
+    virtual int count() const;
+    /// -1 exactly when there is no page.
+    virtual int currentIndex() const;
+    /// An index without a page is ignored; in an empty group it is remembered until that page is added.
+    virtual void setCurrentIndex(int index);
+
+    /// Null for an index without a page.
+    QWidget *widget(int index);
+    DrawbackBox *box(int index) const;
+    /// The window title of the page.
+    QString pageTitle(int index) const;
+    /// Sets the title of the current page.
+    void setPageTitle(const QString &title);
+
+    /// Null and pages that the group has already are ignored.
+    Q_INVOKABLE void addPage(QWidget *page);
+    /// An index out of range is moved into it.
+    void insertPage(int index, QWidget *page);
+    void removePage(int index);
+    /// Shows these boxes in this order and returns how many there are: null and repeated ones are skipped. A
+    /// box without a page gets an empty one. The current page stays current where it is still there.
+    int replaceBoxes(QList<Vexa::DrawbackBox *> boxes);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    /// The index of the current page changed, or another page took its place.
+    void currentIndexChanged(int index);
+    /// The title of the current page changed.
+    void pageTitleChanged(const QString &title);
+
+protected:
+    bool event(QEvent *event) override;
+    void childEvent(QChildEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    class Change;
+
+    void adopt(DrawbackBox *box);
+    void release(DrawbackBox *box);
+    void drop(int index, DrawbackBox *box);
+    void setCurrent(int index);
+    void scheduleLayout();
+    void placeBoxes();
+    int headersHeight(int boxes) const;
+
+    QList<DrawbackBox *> m_boxes;
+    QHash<QObject *, DrawbackBox *> m_boxesOfRemovedPages;
+    QScrollBar *m_scrollBar;
+    int m_current = -1;
+    int m_awaited = -1;
+    bool m_revealCurrent = false;
+};
+
+} // namespace Vexa

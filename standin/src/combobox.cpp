@@ -1,0 +1,15 @@
+#include <nui/Sorrel/SrComboBox.h>
+
+namespace Vexa {
+
+ComboBox::ComboBox(QWidget *parent)
+    : QComboBox(parent)
+{
+    connect(this, QOverload<int>::of(&QComboBox::activated), this, [this](int index) {
+        const QString action = m_actionList.value(index);
+        if (!action.isEmpty())
+            emit actionTriggered(action);
+    });
+}
+
+} // namespace Vexa

@@ -1,0 +1,151 @@
+#include <nui/Sorrel/SrDrawbackBoxGroup.h>
+
+#include "titlebar.h"
+
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+
+namespace Vexa {
+
+namespace {
+// An empty page still is a place to drop something on.
+constexpr QSize emptyPage(100, 40);
+} // namespace
+
+DrawbackBox::DrawbackBox(QWidget *parent)
+    : QWidget(parent)
+{
+    // A form editor leaves clicks to widgets of such names, so that the title bars work while a form is
+    // edited.
+    setObjectName(QStringLiteral("__qt__passive_drawbackBox"));
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void DrawbackBox::setWidget(QWidget *page)
+{
+    if (page == m_page || page == this)
+        return;
+    if (QWidget *old = m_page) {
+        m_page = nullptr;
+        old->removeEventFilter(this);
+        old->hide();
+        old->setParent(nullptr);
+    }
+    m_page = page;
+    if (page) {
+        page->setParent(this);
+        page->installEventFilter(this);
+        page->setVisible(m_expanded);
+        placePage();
+    }
+    m_title = title();
+    updateGeometry();
+    update();
+}
+
+QString DrawbackBox::title() const { return m_page ? m_page->windowTitle() : QString(); }
+
+void DrawbackBox::setExpanded(bool expanded)
+{
+    if (expanded == m_expanded)
+        return;
+    m_expanded = expanded;
+    if (m_page)
+        m_page->setVisible(expanded);
+    placePage();
+    updateGeometry();
+    update();
+    emit expandedChanged(expanded);
+}
+
+int DrawbackBox::headerHeight() const { return titleBarHeight(this); }
+
+QSize DrawbackBox::sizeHint() const
+{
+    const QSize page
+        = m_page && m_expanded ? m_page->sizeHint().expandedTo(emptyPage) : QSize(emptyPage.width(), 0);
+    return {page.width(), headerHeight() + page.height()};
+}
+
+QSize DrawbackBox::minimumSizeHint() const
+{
+    if (!m_page || !m_expanded)
+        return {emptyPage.width(), headerHeight()};
+    const QSize page = m_page->minimumSizeHint().expandedTo(m_page->minimumSize()).expandedTo(emptyPage);
+    return {page.width(), headerHeight() + page.height()};
+}
+
+bool DrawbackBox::event(QEvent *event)
+{
+    // The page wants another size.
+    if (event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+bool DrawbackBox::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_page && event->type() == QEvent::WindowTitleChange && m_title != title()) {
+        m_title = title();
+        update();
+        emit titleChanged(m_title);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void DrawbackBox::childEvent(QChildEvent *event)
+{
+    if (event->removed() && event->child() == m_page) {
+        m_page = nullptr;
+        m_title.clear();
+        update();
+        emit widgetLost();
+    }
+    QWidget::childEvent(event);
+}
+
+void DrawbackBox::activateHeader()
+{
+    // In a group it is the group that decides which box is open.
+    if (!qobject_cast<DrawbackBoxGroup *>(parentWidget()))
+        setExpanded(!m_expanded);
+    emit headerActivated();
+}
+
+void DrawbackBox::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && event->pos().y() < headerHeight())
+        activateHeader();
+    else
+        QWidget::mousePressEvent(event);
+}
+
+void DrawbackBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        activateHeader();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void DrawbackBox::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    if (m_expanded) {
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    paintTitleBar(&painter, QRect(0, 0, width(), headerHeight()), this, m_title, m_expanded);
+}
+
+void DrawbackBox::resizeEvent(QResizeEvent *) { placePage(); }
+
+void DrawbackBox::placePage()
+{
+    if (m_page && m_expanded && height() > headerHeight())
+        m_page->setGeometry(rect().adjusted(1, headerHeight(), -1, -1));
+}
+
+} // namespace Vexa

@@ -1,0 +1,161 @@
+#include <nui/Sorrel/SrLineEditEx.h>
+
+#include "itemlistmodel.h"
+
+#include <QtCore/QTimer>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QToolButton>
+
+#include <algorithm>
+
+namespace Vexa {
+
+LineEditEx::LineEditEx(QWidget *parent)
+    : QLineEdit(parent)
+{
+    setClearButtonEnabled(true);
+}
+
+void LineEditEx::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    m_textBeforeEdit = text();
+    // After the click that brings the focus has placed the cursor.
+    if (event->reason() == Qt::MouseFocusReason)
+        QTimer::singleShot(0, this, &QLineEdit::selectAll);
+}
+
+void LineEditEx::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && isModified() && text() != m_textBeforeEdit) {
+        setText(m_textBeforeEdit);
+        selectAll();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+LineEditBtn::LineEditBtn(QWidget *parent)
+    : LineEditEx(parent)
+    , m_button(new QToolButton(this))
+{
+    m_button->setText(QStringLiteral("..."));
+    m_button->setCursor(Qt::ArrowCursor);
+    m_button->setFocusPolicy(Qt::NoFocus);
+    connect(m_button, &QToolButton::clicked, this, &LineEditBtn::buttonClicked);
+    placeButton();
+}
+
+QString LineEditBtn::buttonText() const { return m_button->text(); }
+
+void LineEditBtn::setButtonText(const QString &text)
+{
+    m_button->setText(text);
+    placeButton();
+}
+
+void LineEditBtn::resizeEvent(QResizeEvent *event)
+{
+    LineEditEx::resizeEvent(event);
+    placeButton();
+}
+
+void LineEditBtn::placeButton()
+{
+    const int width = std::max(m_button->sizeHint().width(), height());
+    m_button->setGeometry(this->width() - width, 0, width, height());
+    setTextMargins(0, 0, width, 0);
+}
+
+CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)
+    : QWidget(parent)
+    , m_comboBox(new QComboBox(this))
+    , m_model(new ItemListModel(true, this))
+{
+    // Without the measuring of every text, which would make a long list slow to show.
+    m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_comboBox->setMinimumContentsLength(8);
+    m_comboBox->setModel(m_model);
+    m_comboBox->setEditable(true);
+    m_comboBox->lineEdit()->setReadOnly(true);
+    m_comboBox->setCompleter(nullptr);
+    m_comboBox->setInsertPolicy(QComboBox::NoInsert);
+    m_comboBox->view()->viewport()->installEventFilter(this);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_comboBox);
+    setFocusProxy(m_comboBox);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+
+    connect(m_model, &ItemListModel::dataChanged, this, [this] {
+        showChecked();
+        emit checkedTextsChanged(checkedTexts());
+    });
+    // The combo box writes the text of its current item into the line.
+    connect(m_comboBox, &QComboBox::editTextChanged, this, &CheckableTextComboBox::showChecked);
+}
+
+QStringList CheckableTextComboBox::itemTextList() const { return m_model->lists().texts; }
+
+void CheckableTextComboBox::setItemTextList(const QStringList &texts)
+{
+    ItemListModel::Lists lists = m_model->lists();
+    lists.texts = texts;
+    m_model->setLists(lists);
+    showChecked();
+}
+
+QStringList CheckableTextComboBox::toolTips() const { return m_model->lists().toolTips; }
+
+void CheckableTextComboBox::setToolTips(const QStringList &toolTips)
+{
+    ItemListModel::Lists lists = m_model->lists();
+    lists.toolTips = toolTips;
+    m_model->setLists(lists);
+    showChecked();
+}
+
+bool CheckableTextComboBox::isItemChecked(int index) const { return m_model->checkedRows().contains(index); }
+
+void CheckableTextComboBox::setItemChecked(int index, bool checked)
+{
+    m_model->setData(m_model->index(index), checked ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+}
+
+QStringList CheckableTextComboBox::checkedTexts() const
+{
+    QList<int> rows = m_model->checkedRows().values();
+    std::sort(rows.begin(), rows.end());
+    QStringList texts;
+    for (int row : qAsConst(rows)) {
+        if (row < m_model->rowCount())
+            texts.append(m_model->lists().texts.value(row));
+    }
+    return texts;
+}
+
+bool CheckableTextComboBox::eventFilter(QObject *watched, QEvent *event)
+{
+    // A click checks the item and leaves the list open for the next one.
+    if (event->type() == QEvent::MouseButtonRelease && watched == m_comboBox->view()->viewport()) {
+        const QModelIndex index = m_comboBox->view()->indexAt(static_cast<QMouseEvent *>(event)->pos());
+        if (index.isValid())
+            setItemChecked(index.row(), !isItemChecked(index.row()));
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void CheckableTextComboBox::showChecked()
+{
+    const QString text = checkedTexts().join(QLatin1String("; "));
+    if (m_comboBox->lineEdit()->text() == text)
+        return;
+    m_comboBox->setEditText(text);
+    m_comboBox->lineEdit()->setCursorPosition(0);
+}
+
+} // namespace Vexa

@@ -1,0 +1,155 @@
+#include <nui/Sorrel/template/SrOptionButtons.h>
+#include <nui/Sorrel/template/SrOptionCheckBox.h>
+#include <nui/Sorrel/template/SrOptionComboBox.h>
+#include <nui/Sorrel/template/SrOptionRadios.h>
+
+#include "buttongrid.h"
+#include "icons.h"
+#include "itemlistmodel.h"
+
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QRadioButton>
+#include <QtWidgets/QToolButton>
+
+#include <algorithm>
+
+namespace Vexa {
+
+namespace {
+
+constexpr unsigned int maximumButtons = 1000;
+
+QAbstractButton *makeToggle(QWidget *parent)
+{
+    auto *button = new QToolButton(parent);
+    button->setCheckable(true);
+    button->setAutoExclusive(true);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    return button;
+}
+
+QAbstractButton *makeRadio(QWidget *parent) { return new QRadioButton(parent); }
+
+ButtonGrid::Contents gridContents(const AbstractOptions &options, unsigned int rows, unsigned int columns)
+{
+    return {rows, columns, options.textList(), options.iconList(), options.toolTips()};
+}
+
+} // namespace
+
+AbstractOptions::AbstractOptions(const QString &title, QWidget *parent)
+    : TemplateWidget(title, parent)
+{
+}
+
+int AbstractOptions::count() const
+{
+    return std::max({m_texts.size(), m_icons.size(), m_toolTips.size(), dataList().size()});
+}
+
+void AbstractOptions::setTextList(const QStringList &texts)
+{
+    m_texts = texts;
+    showOptions();
+}
+
+void AbstractOptions::setIconList(const QStringList &icons)
+{
+    m_icons = icons;
+    showOptions();
+}
+
+void AbstractOptions::setToolTips(const QStringList &toolTips)
+{
+    m_toolTips = toolTips;
+    showOptions();
+}
+
+void AbstractOptions::setDataList(const QStringList &data)
+{
+    m_data = data;
+    showOptions();
+}
+
+void AbstractOptions::setCurrentIndex(int index)
+{
+    if (index == m_currentIndex)
+        return;
+    m_currentIndex = index;
+    showCurrentIndex();
+    emit currentIndexChanged(index);
+}
+
+OptionButtons::OptionButtons(QWidget *parent)
+    : AbstractOptions(tr("Option"), parent)
+    , m_grid(new ButtonGrid(makeToggle, maximumButtons, this))
+{
+    addField(m_grid, 1);
+    m_grid->setCheckedIndex(currentIndex());
+    connect(m_grid, &ButtonGrid::clicked, this, &OptionButtons::setCurrentIndex);
+}
+
+void OptionButtons::updateGeomtries() { m_grid->refresh(); }
+
+void OptionButtons::showOptions() { m_grid->setContents(gridContents(*this, 1, unsigned(count()))); }
+
+void OptionButtons::showCurrentIndex() { m_grid->setCheckedIndex(currentIndex()); }
+
+OptionRadios::OptionRadios(QWidget *parent)
+    : AbstractOptions(tr("Option"), parent)
+    , m_grid(new ButtonGrid(makeRadio, maximumButtons, this))
+{
+    addField(m_grid, 1);
+    m_grid->setCheckedIndex(currentIndex());
+    connect(m_grid, &ButtonGrid::clicked, this, &OptionRadios::setCurrentIndex);
+}
+
+void OptionRadios::updateGeomtries() { m_grid->refresh(); }
+
+void OptionRadios::showOptions() { m_grid->setContents(gridContents(*this, unsigned(count()), 1)); }
+
+void OptionRadios::showCurrentIndex() { m_grid->setCheckedIndex(currentIndex()); }
+
+OptionComboBox::OptionComboBox(QWidget *parent)
+    : AbstractOptions(tr("Option"), parent)
+    , m_comboBox(new QComboBox(this))
+    , m_model(new ItemListModel(false, this))
+{
+    // Without the measuring of every text, which would make a long list slow to show.
+    m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_comboBox->setMinimumContentsLength(8);
+    m_comboBox->setModel(m_model);
+    addField(m_comboBox, 1);
+    connect(m_comboBox, QOverload<int>::of(&QComboBox::activated), this, &OptionComboBox::setCurrentIndex);
+}
+
+void OptionComboBox::showOptions()
+{
+    m_model->setLists({textList(), iconList(), toolTips(), dataList()});
+    showCurrentIndex();
+}
+
+void OptionComboBox::showCurrentIndex() { m_comboBox->setCurrentIndex(currentIndex()); }
+
+OptionCheckBox::OptionCheckBox(QWidget *parent)
+    : AbstractOptions(tr("Option"), parent)
+    , m_checkBox(new QCheckBox(this))
+{
+    addField(m_checkBox, 1);
+    showCurrentIndex();
+    connect(
+        m_checkBox, &QCheckBox::clicked, this, [this](bool checked) { setCurrentIndex(checked ? 0 : 1); });
+}
+
+void OptionCheckBox::showOptions() { showCurrentIndex(); }
+
+void OptionCheckBox::showCurrentIndex()
+{
+    m_checkBox->setChecked(currentIndex() == 0);
+    m_checkBox->setText(textList().value(currentIndex()));
+    m_checkBox->setToolTip(toolTips().value(currentIndex()));
+    m_checkBox->setIcon(iconFromPath(iconList().value(currentIndex())));
+}
+
+} // namespace Vexa
