@@ -1,0 +1,34 @@
+#pragma once
+
+#include "listcontents.h"
+
+namespace Vexa {
+class CheckableTextComboBox;
+class ComboBox;
+class OptionButtons;
+class OptionComboBox;
+class OptionRadios;
+} // namespace Vexa
+
+/// What the list-like controls hold, as contents and back. A null control reads as empty and is not written.
+///
+/// All but the combo box keep their contents in parallel string lists, one string per item and field. The
+/// lists may have any length: for a list that is shorter than the number of items the missing strings are
+/// empty, and an empty string is a field that is not set. Icons are the paths of files or resources.
+
+/// The items that carry Designer's text value; other items, put in by the control itself, are left out. The
+/// action names are taken from the control's action list.
+ListContents fromComboBox(Vexa::ComboBox *comboBox);
+ListContents fromCheckCombo(Vexa::CheckableTextComboBox *checkCombo);
+ListContents fromOptionCombo(Vexa::OptionComboBox *optionCombo);
+ListContents fromOptionButtons(Vexa::OptionButtons *buttons);
+ListContents fromOptionRadios(Vexa::OptionRadios *radios);
+
+/// Items get icons only with an \a iconCache; their text and icon values are stored with them in any case.
+/// The action list gets one name per item.
+void applyToComboBox(
+    const ListContents &contents, Vexa::ComboBox *comboBox, qdesigner_internal::DesignerIconCache *iconCache);
+void applyToCheckCombo(const ListContents &contents, Vexa::CheckableTextComboBox *checkCombo);
+void applyToOptionCombo(const ListContents &contents, Vexa::OptionComboBox *optionCombo);
+void applyToOptionButtons(const ListContents &contents, Vexa::OptionButtons *buttons);
+void applyToOptionRadios(const ListContents &contents, Vexa::OptionRadios *radios);

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "changecontentscommand.h"
+#include "listcontents.h"
+
+#include <sorrel/SrComboBox.h>
+#include <sorrel/SrLineEditEx.h>
+#include <sorrel/SrOptionButtons.h>
+#include <sorrel/SrOptionComboBox.h>
+#include <sorrel/SrOptionRadios.h>
+
+// The undo steps of the combo boxes have no text in the undo list, those of the options have one.
+
+class ChangeComboBoxCommand final : public ChangeContentsCommand<Vexa::ComboBox, ListContents> {
+public:
+    explicit ChangeComboBoxCommand(QDesignerFormWindowInterface *formWindow);
+
+private:
+    void write(const ListContents &contents, Vexa::ComboBox *comboBox) override;
+};
+
+class ChangeCheckComboCommand final
+    : public ChangeContentsCommand<Vexa::CheckableTextComboBox, ListContents> {
+public:
+    explicit ChangeCheckComboCommand(QDesignerFormWindowInterface *formWindow);
+
+private:
+    void write(const ListContents &contents, Vexa::CheckableTextComboBox *checkCombo) override;
+};
+
+class ChangeOptionComboCommand final : public ChangeContentsCommand<Vexa::OptionComboBox, ListContents> {
+public:
+    explicit ChangeOptionComboCommand(QDesignerFormWindowInterface *formWindow);
+
+private:
+    void write(const ListContents &contents, Vexa::OptionComboBox *optionCombo) override;
+};
+
+class ChangeOptionButtonsCommand final : public ChangeContentsCommand<Vexa::OptionButtons, ListContents> {
+public:
+    explicit ChangeOptionButtonsCommand(QDesignerFormWindowInterface *formWindow);
+
+private:
+    void write(const ListContents &contents, Vexa::OptionButtons *buttons) override;
+};
+
+class ChangeOptionRadiosCommand final : public ChangeContentsCommand<Vexa::OptionRadios, ListContents> {
+public:
+    explicit ChangeOptionRadiosCommand(QDesignerFormWindowInterface *formWindow);
+
+private:
+    void write(const ListContents &contents, Vexa::OptionRadios *radios) override;
+};
