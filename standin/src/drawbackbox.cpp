@@ -4,6 +4,7 @@
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QVBoxLayout>
 
 namespace Vexa {
 
@@ -14,11 +15,15 @@ constexpr QSize emptyPage(100, 40);
 
 DrawbackBox::DrawbackBox(QWidget *parent)
     : QWidget(parent)
+    , m_layout(new QVBoxLayout(this))
 {
     // A form editor leaves clicks to widgets of such names, so that the title bars work while a form is
     // edited.
     setObjectName(QStringLiteral("__qt__passive_drawbackBox"));
     setFocusPolicy(Qt::TabFocus);
+    // A page in a layout has no geometry of its own that a form editor would save.
+    m_layout->setSizeConstraint(QLayout::SetNoConstraint);
+    m_layout->setContentsMargins(1, headerHeight(), 1, 1);
 }
 
 void DrawbackBox::setWidget(QWidget *page)
@@ -33,10 +38,9 @@ void DrawbackBox::setWidget(QWidget *page)
     }
     m_page = page;
     if (page) {
-        page->setParent(this);
+        m_layout->addWidget(page);
         page->installEventFilter(this);
         page->setVisible(m_expanded);
-        placePage();
     }
     m_title = title();
     updateGeometry();
@@ -52,7 +56,6 @@ void DrawbackBox::setExpanded(bool expanded)
     m_expanded = expanded;
     if (m_page)
         m_page->setVisible(expanded);
-    placePage();
     updateGeometry();
     update();
     emit expandedChanged(expanded);
@@ -75,16 +78,6 @@ QSize DrawbackBox::minimumSizeHint() const
     return {page.width(), headerHeight() + page.height()};
 }
 
-bool DrawbackBox::event(QEvent *event)
-{
-    // The page wants another size.
-    if (event->type() == QEvent::LayoutRequest) {
-        updateGeometry();
-        return true;
-    }
-    return QWidget::event(event);
-}
-
 bool DrawbackBox::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_page && event->type() == QEvent::WindowTitleChange && m_title != title()) {
@@ -104,6 +97,13 @@ void DrawbackBox::childEvent(QChildEvent *event)
         emit widgetLost();
     }
     QWidget::childEvent(event);
+}
+
+void DrawbackBox::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        m_layout->setContentsMargins(1, headerHeight(), 1, 1);
+    QWidget::changeEvent(event);
 }
 
 void DrawbackBox::activateHeader()
@@ -138,14 +138,6 @@ void DrawbackBox::paintEvent(QPaintEvent *)
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
     paintTitleBar(&painter, QRect(0, 0, width(), headerHeight()), this, m_title, m_expanded);
-}
-
-void DrawbackBox::resizeEvent(QResizeEvent *) { placePage(); }
-
-void DrawbackBox::placePage()
-{
-    if (m_page && m_expanded && height() > headerHeight())
-        m_page->setGeometry(rect().adjusted(1, headerHeight(), -1, -1));
 }
 
 } // namespace Vexa

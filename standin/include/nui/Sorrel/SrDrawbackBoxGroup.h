@@ -7,6 +7,7 @@
 #include <QtWidgets/QWidget>
 
 class QScrollBar;
+class QVBoxLayout;
 
 namespace Vexa {
 
@@ -43,18 +44,17 @@ signals:
     void widgetLost();
 
 protected:
-    bool event(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void childEvent(QChildEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void activateHeader();
-    void placePage();
 
+    QVBoxLayout *const m_layout;
     QWidget *m_page = nullptr;
     QString m_title;
     bool m_expanded = true;
