@@ -19,8 +19,8 @@ struct ControlRow {
     const char *toolTip = "";
 };
 
-/// The controls in widget-box order. Shared headers, the lower-case "template" folder, the mixed case of object
-/// names and FormProxy's group are the control library's own and stay as they are.
+/// The controls in widget-box order. Shared headers, the lower-case "template" folder, the mixed case of
+/// object names and FormProxy's group are the control library's own and stay as they are.
 // clang-format off
 inline constexpr ControlRow controlRows[] = {
     {"Vexa::Angle", ControlGroup::Templates, "nui/Sorrel/Template/SrAngle", "Angle"},
@@ -73,7 +73,8 @@ inline constexpr ControlRow controlRows[] = {
 
 inline constexpr std::size_t controlCount = sizeof controlRows / sizeof *controlRows;
 
-/// The position of a control in controlRows, worked out by the compiler: a class without a row does not compile.
+/// The position of a control in controlRows, worked out by the compiler: a class without a row does not
+/// compile.
 constexpr std::size_t rowOf(std::string_view className)
 {
     for (std::size_t i = 0; i < controlCount; ++i) {

@@ -121,7 +121,8 @@ inline constexpr char paneXml[] = R"(<widget class="Vexa::Pane" name="pane">
 </widget>
 )";
 
-inline constexpr char matrixPopButtonsXml[] = R"(<widget class="Vexa::MatrixPopButtons" name="matrixPopButtons">
+inline constexpr char matrixPopButtonsXml[]
+    = R"(<widget class="Vexa::MatrixPopButtons" name="matrixPopButtons">
  <property name="id" stdset="0">
   <number></number>
  </property>

@@ -1,0 +1,127 @@
+#include "controlplugin.h"
+
+#include <sorrel/SrMatrixButtons.h>
+
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerPropertyEditorInterface>
+#include <QtDesigner/QExtensionManager>
+
+#include <private/qtresourcemodel_p.h>
+
+#include <QtGui/QIcon>
+
+namespace {
+
+bool isOfClass(const QObject *object, const char *className)
+{
+    return qstrcmp(object->metaObject()->className(), className) == 0;
+}
+
+/// Has every push-button matrix below \a object look up its texts in the new resource set. Check boxes and
+/// radio buttons stay as they are: their texts do not depend on resources.
+void reapplyMatrixTexts(QObject *object)
+{
+    if (!object)
+        return;
+    if (isOfClass(object, "Vexa::MatrixPushButtons")) {
+        auto *matrix
+            = static_cast<Vexa::AbstractMatrixOptions *>(static_cast<Vexa::MatrixPushButtons *>(object));
+        matrix->setTextList(matrix->textList());
+    }
+    const QObjectList children = object->children();
+    for (QObject *child : children)
+        reapplyMatrixTexts(child);
+}
+
+} // namespace
+
+ControlPlugin::ControlPlugin(const ControlRow &row, QObject *parent)
+    : QObject(parent)
+    , m_row(row)
+{
+}
+
+QString ControlPlugin::name() const { return QString::fromLatin1(m_row.className); }
+
+QString ControlPlugin::group() const
+{
+    return m_row.group == ControlGroup::Templates ? QStringLiteral("Quenta Template Widgets")
+                                                  : QStringLiteral("Quenta Widgets");
+}
+
+QString ControlPlugin::toolTip() const { return QString::fromLatin1(m_row.toolTip); }
+
+QString ControlPlugin::whatsThis() const { return QString(); }
+
+QString ControlPlugin::includeFile() const
+{
+    return QLatin1String(m_row.includeFile) + QLatin1String(SORREL_HEADER_EXTENSION);
+}
+
+QIcon ControlPlugin::icon() const { return QIcon(); }
+
+bool ControlPlugin::isContainer() const { return m_row.container; }
+
+bool ControlPlugin::isInitialized() const { return m_initialized; }
+
+void ControlPlugin::initialize(QDesignerFormEditorInterface *core)
+{
+    if (m_initialized)
+        return;
+    keepCore(core);
+    if (QExtensionManager *manager = core ? core->extensionManager() : nullptr)
+        registerExtensions(manager, core);
+    m_initialized = true;
+}
+
+QString ControlPlugin::domXml() const
+{
+    QString xml = QString::fromLatin1(m_row.xml);
+    xml.replace(QLatin1String("%1"), QLatin1String(m_row.className));
+    xml.replace(QLatin1String("%2"), QLatin1String(m_row.objectName));
+    return xml;
+}
+
+QString ControlPlugin::codeTemplate() const { return QString(); }
+
+void ControlPlugin::registerExtensions(QExtensionManager *, QDesignerFormEditorInterface *) { }
+
+void ControlPlugin::keepCore(QDesignerFormEditorInterface *) { }
+
+void ControlPlugin::watchDesigner() { }
+
+void CoreKeepingControlPlugin::keepCore(QDesignerFormEditorInterface *core) { m_core = core; }
+
+void PropertyWatchingControlPlugin::watchDesigner()
+{
+    if (!m_core)
+        return;
+    m_propertyEditor = m_core->propertyEditor();
+    if (m_propertyEditor)
+        connect(m_propertyEditor, SIGNAL(propertyChanged(QString, QVariant)), this,
+            SLOT(propertyChanged(QString, QVariant)));
+}
+
+void PropertyWatchingControlPlugin::propertyChanged(QString, QVariant)
+{
+    // The editor that signals may be one that was replaced since, so ask the one that is connected last.
+    QObject *object = m_propertyEditor ? m_propertyEditor->object() : nullptr;
+    if (object && isOfClass(object, m_row.className))
+        static_cast<QWidget *>(object)->update();
+}
+
+void ResourceWatchingControlPlugin::watchDesigner()
+{
+    PropertyWatchingControlPlugin::watchDesigner();
+    if (m_core && m_core->resourceModel())
+        connect(m_core->resourceModel(), SIGNAL(resourceSetActivated(QtResourceSet *, bool)), this,
+            SLOT(resourceSetActivated(QtResourceSet *, bool)));
+}
+
+void ResourceWatchingControlPlugin::resourceSetActivated(QtResourceSet *, bool)
+{
+    if (m_core && m_core->formWindowManager())
+        reapplyMatrixTexts(m_core->formWindowManager()->activeFormWindow());
+}

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "catalogue.h"
+
+#include <QtUiPlugin/QDesignerCustomWidgetInterface>
+
+#include <QtCore/QObject>
+#include <QtCore/QVariant>
+
+class QDesignerFormEditorInterface;
+class QDesignerPropertyEditorInterface;
+class QExtensionManager;
+class QtResourceSet;
+
+/// The descriptor of one control: answers Designer's questions from a row of the catalogue.
+/// Owned by the collection; works without a core, so that widgets can be made before initialize().
+class ControlPlugin : public QObject, public QDesignerCustomWidgetInterface {
+    Q_OBJECT
+    Q_INTERFACES(QDesignerCustomWidgetInterface)
+
+public:
+    ControlPlugin(const ControlRow &row, QObject *parent);
+
+    QString name() const override;
+    QString group() const override;
+    QString toolTip() const override;
+    QString whatsThis() const override;
+    /// The header with the extension that the control library's package names.
+    QString includeFile() const override;
+    QIcon icon() const override;
+    bool isContainer() const override;
+    bool isInitialized() const override;
+    /// Registers the control's Designer extensions, the first time only. A null core registers nothing.
+    void initialize(QDesignerFormEditorInterface *core) override;
+    QString domXml() const override;
+    QString codeTemplate() const override;
+
+protected:
+    /// Called once, with a core that has an extension manager.
+    virtual void registerExtensions(QExtensionManager *manager, QDesignerFormEditorInterface *core);
+    virtual void keepCore(QDesignerFormEditorInterface *core);
+    /// Called before each widget is made.
+    virtual void watchDesigner();
+
+    const ControlRow &m_row;
+
+private:
+    bool m_initialized = false;
+};
+
+/// A descriptor that keeps the form editor.
+class CoreKeepingControlPlugin : public ControlPlugin {
+    Q_OBJECT
+
+public:
+    using ControlPlugin::ControlPlugin;
+
+protected:
+    void keepCore(QDesignerFormEditorInterface *core) override;
+
+    QDesignerFormEditorInterface *m_core = nullptr;
+    QDesignerPropertyEditorInterface *m_propertyEditor = nullptr;
+};
+
+/// A descriptor whose controls repaint after every property edit.
+class PropertyWatchingControlPlugin : public CoreKeepingControlPlugin {
+    Q_OBJECT
+
+public:
+    using CoreKeepingControlPlugin::CoreKeepingControlPlugin;
+
+protected:
+    /// Connects anew for each widget: the repaint runs once per widget of the kind, and forms rely on it.
+    void watchDesigner() override;
+
+protected slots:
+    void propertyChanged(QString name, QVariant value);
+};
+
+/// A descriptor that also has push-button matrices re-apply their texts when a resource set is activated.
+class ResourceWatchingControlPlugin : public PropertyWatchingControlPlugin {
+    Q_OBJECT
+
+public:
+    using PropertyWatchingControlPlugin::PropertyWatchingControlPlugin;
+
+protected:
+    void watchDesigner() override;
+
+protected slots:
+    void resourceSetActivated(QtResourceSet *resourceSet, bool resourceSetChanged);
+};
+
+/// Binds a control class to its row and to the watching that it needs.
+template <typename Control, std::size_t Row, typename Base = ControlPlugin>
+class Descriptor : public Base {
+public:
+    static constexpr std::size_t row = Row;
+
+    explicit Descriptor(QObject *parent = nullptr)
+        : Base(controlRows[Row], parent)
+    {
+    }
+
+    /// The control belongs to \a parent, or to the caller where there is none.
+    QWidget *createWidget(QWidget *parent) override
+    {
+        this->watchDesigner();
+        return new Control(parent);
+    }
+};

@@ -1,0 +1,38 @@
+#include "extrainfoextension.h"
+
+#include <sorrel/SrFormBuilder.h>
+
+#include <QtWidgets/QWidget>
+
+ExtraInfoExtension::ExtraInfoExtension(QWidget *widget, const ExtraInfoExtensionFactory *factory)
+    : m_widget(widget)
+    , m_factory(factory)
+{
+}
+
+QDesignerFormEditorInterface *ExtraInfoExtension::core() const { return m_factory->m_core; }
+
+QWidget *ExtraInfoExtension::widget() const { return m_widget; }
+
+bool ExtraInfoExtension::saveUiExtraInfo(DomUI *) { return true; }
+
+bool ExtraInfoExtension::loadUiExtraInfo(DomUI *) { return true; }
+
+bool ExtraInfoExtension::saveWidgetExtraInfo(DomWidget *ui_widget)
+{
+    Vexa::FormBuilder::saveExtraInfo(ui_widget, m_widget, nullptr);
+    return true;
+}
+
+bool ExtraInfoExtension::loadWidgetExtraInfo(DomWidget *ui_widget)
+{
+    Vexa::FormBuilder::loadExtraInfo(ui_widget, m_widget, nullptr);
+    return true;
+}
+
+QObject *ExtraInfoExtensionFactory::createExtension(QObject *object, const QString &iid, QObject *) const
+{
+    if (iid != QLatin1String("org.qt-project.Qt.Designer.ExtraInfo.2") || !object->isWidgetType())
+        return nullptr;
+    return new ExtraInfoExtension(static_cast<QWidget *>(object), this);
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QtDesigner/QDesignerExtraInfoExtension>
+#include <QtDesigner/QExtensionFactory>
+
+class ExtraInfoExtensionFactory;
+class QDesignerFormEditorInterface;
+
+/// Lets the control library keep data of a widget in the .ui file beside its properties.
+class ExtraInfoExtension : public QObject, public QDesignerExtraInfoExtension {
+    Q_OBJECT
+    Q_INTERFACES(QDesignerExtraInfoExtension)
+
+public:
+    ExtraInfoExtension(QWidget *widget, const ExtraInfoExtensionFactory *factory);
+
+    QDesignerFormEditorInterface *core() const override;
+    QWidget *widget() const override;
+    bool saveUiExtraInfo(DomUI *ui) override;
+    bool loadUiExtraInfo(DomUI *ui) override;
+    bool saveWidgetExtraInfo(DomWidget *ui_widget) override;
+    bool loadWidgetExtraInfo(DomWidget *ui_widget) override;
+
+private:
+    QWidget *m_widget;
+    const ExtraInfoExtensionFactory *m_factory;
+};
+
+/// Makes an extra-info extension for any widget, of the control library or not.
+class ExtraInfoExtensionFactory : public QExtensionFactory {
+public:
+    using QExtensionFactory::QExtensionFactory;
+
+    QDesignerFormEditorInterface *m_core = nullptr;
+
+protected:
+    /// The extension has no parent: it belongs to nobody and lasts for the rest of the run, one per widget.
+    QObject *createExtension(QObject *object, const QString &iid, QObject *parent) const override;
+};
