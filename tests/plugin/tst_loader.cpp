@@ -1,0 +1,368 @@
+#include "logwatch.h"
+
+#include <QtCore/QJsonObject>
+#include <QtCore/QPluginLoader>
+#include <QtCore/QPointer>
+#include <QtCore/QProcess>
+#include <QtTest/QtTest>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+#include <QtWidgets/QWidget>
+
+#include <memory>
+
+namespace {
+
+// What users' forms and build files rely on, written down a second time.
+
+constexpr char A[] = "Quenta Template Widgets";
+constexpr char B[] = "Quenta Widgets";
+
+constexpr char standard[] = "<widget class=\"CLASS\" name=\"OBJECT\">\n"
+                            " <property name=\"id\" stdset=\"0\">\n"
+                            "  <number></number>\n"
+                            " </property>\n"
+                            "</widget>";
+
+constexpr char optionCheckBox[] = "<widget class=\"CLASS\" name=\"OBJECT\">\n"
+                                  " <property name=\"id\" stdset=\"0\">\n"
+                                  "  <number></number>\n"
+                                  " </property>\n"
+                                  " <item>\n"
+                                  "  <property name=\"data\">\n"
+                                  "   <string notr=\"true\">1</string>\n"
+                                  "  </property>\n"
+                                  "  <property name=\"text\">\n"
+                                  "   <string notr=\"false\">Yes</string>\n"
+                                  "  </property>\n"
+                                  " </item>\n"
+                                  " <item>\n"
+                                  "  <property name=\"data\">\n"
+                                  "   <string notr=\"true\">0</string>\n"
+                                  "  </property>\n"
+                                  "  <property name=\"text\">\n"
+                                  "   <string notr=\"false\">No</string>\n"
+                                  "  </property>\n"
+                                  " </item>\n"
+                                  "</widget>";
+
+constexpr char matrixPopButtons[] = "<widget class=\"CLASS\" name=\"OBJECT\">\n"
+                                    " <property name=\"id\" stdset=\"0\">\n"
+                                    "  <number></number>\n"
+                                    " </property>\n"
+                                    " <property name=\"textList\">\n"
+                                    "  <stringlist>\n"
+                                    "   <string>item0</string>\n"
+                                    "   <string>item1</string>\n"
+                                    "   <string>item2</string>\n"
+                                    "   <string>item3</string>\n"
+                                    "  </stringlist>\n"
+                                    " </property>\n"
+                                    "</widget>";
+
+constexpr char line[] = "<widget class=\"CLASS\" name=\"OBJECT\">\n"
+                        "</widget>";
+
+constexpr char pane[] = "<widget class=\"CLASS\" name=\"OBJECT\">\n"
+                        " <property name=\"geometry\">\n"
+                        "  <rect>\n"
+                        "   <x>0</x>\n"
+                        "   <y>0</y>\n"
+                        "   <width>150</width>\n"
+                        "   <height>100</height>\n"
+                        "  </rect>\n"
+                        " </property>\n"
+                        " <property name=\"title\">\n"
+                        "  <string>untitled</string>\n"
+                        " </property>\n"
+                        " <property name=\"id\" stdset=\"0\">\n"
+                        "  <number></number>\n"
+                        " </property>\n"
+                        "</widget>";
+
+constexpr char drawbackBoxGroup[] = "<ui language=\"c++\">\n"
+                                    " <widget class=\"CLASS\" name=\"OBJECT\">\n"
+                                    "  <widget class=\"QWidget\" name=\"page\" />\n"
+                                    " </widget>\n"
+                                    " <customwidgets>\n"
+                                    "  <customwidget>\n"
+                                    "   <class>CLASS</class>\n"
+                                    "   <extends>QWidget</extends>\n"
+                                    "   <addpagemethod>addPage</addpagemethod>\n"
+                                    "  </customwidget>\n"
+                                    " </customwidgets>\n"
+                                    "</ui>";
+
+constexpr char form[] = "<widget class=\"CLASS\" name=\"OBJECT\">\n"
+                        " <property name=\"geometry\">\n"
+                        "  <rect>\n"
+                        "   <x>0</x>\n"
+                        "   <y>0</y>\n"
+                        "   <width>275</width>\n"
+                        "   <height>360</height>\n"
+                        "  </rect>\n"
+                        " </property>\n"
+                        " <property name=\"mode\">\n"
+                        "  <enum>Vexa::Form::Dockable</enum>\n"
+                        " </property>\n"
+                        " <property name=\"functionName\">\n"
+                        "  <string notr=\"true\"/>\n"
+                        " </property>\n"
+                        " <layout class=\"QVBoxLayout\" name=\"verticalLayout\">\n"
+                        "  <property name=\"margin\">\n"
+                        "   <number>2</number>\n"
+                        "  </property>\n"
+                        "  <item>\n"
+                        "   <widget class=\"Vexa::DrawbackBoxGroup\" name=\"drawbackBoxGroup\">\n"
+                        "    <property name=\"currentIndex\">\n"
+                        "     <number>0</number>\n"
+                        "    </property>\n"
+                        "    <widget class=\"QWidget\" name=\"page_0\">\n"
+                        "     <property name=\"windowTitle\">\n"
+                        "      <string>Required</string>\n"
+                        "     </property>\n"
+                        "    </widget>\n"
+                        "    <widget class=\"QWidget\" name=\"page_1\">\n"
+                        "     <property name=\"windowTitle\">\n"
+                        "      <string>Optional</string>\n"
+                        "     </property>\n"
+                        "    </widget>\n"
+                        "    <widget class=\"QWidget\" name=\"page_2\">\n"
+                        "     <property name=\"windowTitle\">\n"
+                        "      <string>Advanced</string>\n"
+                        "     </property>\n"
+                        "    </widget>\n"
+                        "   </widget>\n"
+                        "  </item>\n"
+                        " </layout>\n"
+                        "</widget>";
+
+struct Expected {
+    const char *control;
+    const char *group;
+    const char *includeFile;
+    const char *objectName;
+    const char *xml; ///< without the final newline
+    bool finalNewline;
+    bool container;
+};
+
+// clang-format off
+constexpr Expected expectedControls[] = {
+    {"Angle", A, "nui/Sorrel/Template/SrAngle.h", "Angle", standard, true, false},
+    {"CmdButton", A, "nui/Sorrel/Template/SrCmdButton.h", "CmdButton", standard, true, false},
+    {"Color", A, "nui/Sorrel/Template/SrColor.h", "Color", standard, true, false},
+    {"ColorTransfer", A, "nui/Sorrel/Template/ColorTransfer.h", "ColorTransfer", standard, true, false},
+    {"Distance", A, "nui/Sorrel/Template/SrDistance.h", "Distance", standard, true, false},
+    {"Entity", A, "nui/Sorrel/Template/SrEntity.h", "Entity", standard, true, false},
+    {"EntityList", A, "nui/Sorrel/Template/SrEntityList.h", "EntityList", standard, true, false},
+    {"EntityTable", A, "nui/Sorrel/Template/SrEntityTable.h", "EntityTable", standard, true, false},
+    {"PinEntity", A, "nui/Sorrel/Template/SrPinEntity.h", "PinEntity", standard, true, false},
+    {"PinEntityList", A, "nui/Sorrel/Template/SrPinEntityList.h", "PinEntityList", standard, true, false},
+    {"FormProxy", B, "nui/Sorrel/SrFormProxy.h", "formProxy", standard, true, false},
+    {"Number", A, "nui/Sorrel/Template/SrNumber.h", "Number", standard, true, false},
+    {"OptionButtons", A, "nui/Sorrel/template/SrOptionButtons.h", "OptionButtons", standard, true, false},
+    {"OptionCheckBox", A, "nui/Sorrel/template/SrOptionCheckBox.h", "OptionCheckBox", optionCheckBox, true, false},
+    {"OptionComboBox", A, "nui/Sorrel/template/SrOptionComboBox.h", "OptionComboBox", standard, true, false},
+    {"OptionRadios", A, "nui/Sorrel/template/SrOptionRadios.h", "OptionRadios", standard, true, false},
+    {"Point", A, "nui/Sorrel/Template/SrPoint.h", "Point", standard, true, false},
+    {"Slider", A, "nui/Sorrel/Template/SrSlider.h", "Slider", standard, true, false},
+    {"String", A, "nui/Sorrel/Template/SrString.h", "String", standard, true, false},
+    {"Window", A, "nui/Sorrel/Template/SrWindow.h", "Window", standard, true, false},
+    {"CheckableTextComboBox", B, "nui/Sorrel/SrLineEditEx.h", "checkableTextComboBox", standard, true, false},
+    {"ColorButton", B, "nui/Sorrel/SrColorButton.h", "colorButton", standard, true, false},
+    {"ColorPanel", B, "nui/Sorrel/SrColorPanel.h", "colorPanel", standard, true, false},
+    {"ColorPicker", B, "nui/Sorrel/SrColorPicker.h", "colorPicker", standard, true, false},
+    {"ComboBox", B, "nui/Sorrel/SrComboBox.h", "comboBox", standard, true, false},
+    {"DrawbackBoxGroup", B, "nui/Sorrel/SrDrawbackBoxGroup.h", "drawbackBoxGroup", drawbackBoxGroup, true, true},
+    {"Form", B, "nui/Sorrel/SrForm.h", "form", form, true, true},
+    {"Line", B, "nui/Sorrel/SrLine.h", "line", line, true, false},
+    {"LineEditBtn", B, "nui/Sorrel/SrLineEditEx.h", "lineEditBtn", standard, false, false},
+    {"LineEditEx", B, "nui/Sorrel/SrLineEditEx.h", "lineEditEx", standard, false, false},
+    {"LineType", B, "nui/Sorrel/SrLineType.h", "lineType", standard, true, false},
+    {"LineWidth", B, "nui/Sorrel/SrLineWidth.h", "lineWidth", standard, true, false},
+    {"ListView", B, "nui/Sorrel/SrListView.h", "listView", standard, false, false},
+    {"ListWidget", B, "nui/Sorrel/SrListWidget.h", "listWidget", standard, false, false},
+    {"MatrixCheckBoxes", B, "nui/Sorrel/SrMatrixButtons.h", "matrixCheckBoxes", standard, true, false},
+    {"MatrixPopButtons", B, "nui/Sorrel/SrMatrixPopButtons.h", "matrixPopButtons", matrixPopButtons, true, false},
+    {"MatrixPushButtons", B, "nui/Sorrel/SrMatrixButtons.h", "matrixPushButtons", standard, true, false},
+    {"MatrixRadioButtons", B, "nui/Sorrel/SrMatrixButtons.h", "matrixRadioButtons", standard, true, false},
+    {"Pane", B, "nui/Sorrel/SrPane.h", "pane", pane, true, true},
+    {"RealNumberEdit", B, "nui/Sorrel/SrRealNumberEdit.h", "realNumberEdit", standard, true, false},
+    {"RealNumberSlider", B, "nui/Sorrel/SrRealNumber.h", "realNumberSlider", standard, false, false},
+    {"SelectList", B, "nui/Sorrel/SrSelectList.h", "selectList", standard, false, false},
+    {"TableWidget", B, "nui/Sorrel/SrTableWidget.h", "tableWidget", standard, false, false},
+    {"TextEdit", B, "nui/Sorrel/SrTextEdit.h", "TextEdit", standard, true, false},
+    {"TreeView", B, "nui/Sorrel/SrTreeView.h", "treeView", standard, false, false},
+};
+// clang-format on
+
+const auto controlCount = int(sizeof expectedControls / sizeof *expectedControls);
+
+} // namespace
+
+class TestLoader : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_log.reset();
+        m_log = std::make_unique<LogWatch>();
+        m_loader.setFileName(QStringLiteral(PLUGIN_FILE));
+    }
+    void cleanup()
+    {
+        m_loader.unload();
+        QCOMPARE(m_log->takeUnexpected().join(QLatin1Char('\n')), QString());
+    }
+
+    void metadataNamesTheCollection()
+    {
+        const QJsonObject metaData = m_loader.metaData();
+        QCOMPARE(metaData.value(QLatin1String("IID")).toString(),
+            QStringLiteral("org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface"));
+        QCOMPARE(metaData.value(QLatin1String("className")).toString(), QStringLiteral("CpPlugin"));
+        // A debug plugin would be refused by the Designer that everybody has.
+        QCOMPARE(metaData.value(QLatin1String("debug")).toBool(true), false);
+        QCOMPARE(metaData.value(QLatin1String("version")).toInt() & ~0xff, QT_VERSION & ~0xff);
+        QVERIFY(metaData.value(QLatin1String("MetaData")).toObject().isEmpty());
+    }
+
+    void exportsTheEntryPointsOnly()
+    {
+        QProcess nm;
+        nm.start(QStringLiteral("nm"),
+            {QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral(PLUGIN_FILE)});
+        QVERIFY(nm.waitForFinished());
+        QCOMPARE(nm.exitCode(), 0);
+        QStringList names;
+        const QByteArrayList lines = nm.readAllStandardOutput().split('\n');
+        for (const QByteArray &symbol : lines) {
+            if (!symbol.isEmpty())
+                names += QString::fromLatin1(symbol.split(' ').last());
+        }
+        names.sort();
+        QCOMPARE(names,
+            (QStringList{QStringLiteral("qt_plugin_instance"), QStringLiteral("qt_plugin_query_metadata")}));
+    }
+
+    void collectionCastsToItsInterfaceOnly()
+    {
+        QObject *collection = m_loader.instance();
+        QVERIFY2(collection, qPrintable(m_loader.errorString()));
+        for (const char *name : {"CpPlugin", "QDesignerCustomWidgetCollectionInterface",
+                 "org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface"})
+            QVERIFY2(collection->qt_metacast(name), name);
+        QVERIFY(!qobject_cast<QDesignerCustomWidgetInterface *>(collection));
+        QCOMPARE(collection->metaObject()->methodCount(), QObject::staticMetaObject.methodCount());
+        QCOMPARE(collection->metaObject()->propertyCount(), QObject::staticMetaObject.propertyCount());
+    }
+
+    void controlsStandInOrder()
+    {
+        const QList<QDesignerCustomWidgetInterface *> descriptors = customWidgets();
+        QCOMPARE(descriptors.size(), controlCount);
+        for (int i = 0; i < controlCount; ++i)
+            QCOMPARE(descriptors.at(i)->name(),
+                QLatin1String("Vexa::") + QLatin1String(expectedControls[i].control));
+    }
+
+    void descriptorAnswers_data()
+    {
+        QTest::addColumn<int>("index");
+        for (int i = 0; i < controlCount; ++i)
+            QTest::newRow(expectedControls[i].control) << i;
+    }
+    void descriptorAnswers()
+    {
+        QFETCH(int, index);
+        const Expected &expected = expectedControls[index];
+        const QString className = QLatin1String("Vexa::") + QLatin1String(expected.control);
+        QDesignerCustomWidgetInterface *descriptor = customWidgets().value(index);
+        QVERIFY(descriptor);
+        QCOMPARE(descriptor->group(), QLatin1String(expected.group));
+        QCOMPARE(descriptor->includeFile(), QLatin1String(expected.includeFile));
+        QCOMPARE(descriptor->isContainer(), expected.container);
+        const bool isPane = qstrcmp(expected.control, "Pane") == 0;
+        QCOMPARE(descriptor->toolTip(), QLatin1String(isPane ? "Quenta Collapsible Pane" : ""));
+        QVERIFY(descriptor->whatsThis().isEmpty());
+        QVERIFY(descriptor->codeTemplate().isEmpty());
+        QVERIFY(descriptor->icon().isNull());
+
+        QString xml = QLatin1String(expected.xml);
+        xml.replace(QLatin1String("CLASS"), className);
+        xml.replace(QLatin1String("OBJECT"), QLatin1String(expected.objectName));
+        if (expected.finalNewline)
+            xml += QLatin1Char('\n');
+        QCOMPARE(descriptor->domXml(), xml);
+
+        auto *object = dynamic_cast<QObject *>(descriptor);
+        QVERIFY(object);
+        QCOMPARE(object->metaObject()->className(), expected.control + QByteArray("Plugin"));
+        QCOMPARE(object->parent(), m_loader.instance());
+        for (const char *name :
+            {"QDesignerCustomWidgetInterface", "org.qt-project.QDesignerCustomWidgetInterface"})
+            QVERIFY2(object->qt_metacast(name), name);
+    }
+
+    /// Designer makes a throw-away instance of every control at start, before there is a form; it has no
+    /// parent.
+    void makesItsControlWithoutACore_data() { descriptorAnswers_data(); }
+    void makesItsControlWithoutACore()
+    {
+        QFETCH(int, index);
+        QDesignerCustomWidgetInterface *descriptor = customWidgets().value(index);
+        const std::unique_ptr<QWidget> orphan(descriptor->createWidget(nullptr));
+        QVERIFY(orphan);
+        QCOMPARE(QString::fromLatin1(orphan->metaObject()->className()), descriptor->name());
+        QWidget parent;
+        QCOMPARE(descriptor->createWidget(&parent)->parentWidget(), &parent);
+        QVERIFY(!descriptor->isInitialized());
+        descriptor->initialize(nullptr);
+        QVERIFY(descriptor->isInitialized());
+    }
+
+    void theOneCollectionDiesWithItsDescriptors()
+    {
+        QPointer<QObject> collection = m_loader.instance();
+        QPluginLoader second(QStringLiteral(PLUGIN_FILE));
+        QCOMPARE(second.instance(), collection.data());
+        second.unload();
+        int destroyed = 0;
+        const QList<QDesignerCustomWidgetInterface *> descriptors = customWidgets();
+        for (QDesignerCustomWidgetInterface *descriptor : descriptors)
+            connect(dynamic_cast<QObject *>(descriptor), &QObject::destroyed, this,
+                [&destroyed] { ++destroyed; });
+        delete collection;
+        QCOMPARE(destroyed, controlCount);
+
+        QObject *next = m_loader.instance();
+        QVERIFY(next);
+        QCOMPARE(customWidgets().size(), controlCount);
+    }
+
+    void loadsUsesAndUnloadsTwice()
+    {
+        for (int round = 0; round < 2; ++round) {
+            QVERIFY(m_loader.load());
+            const QList<QDesignerCustomWidgetInterface *> descriptors = customWidgets();
+            for (QDesignerCustomWidgetInterface *descriptor : descriptors)
+                delete descriptor->createWidget(nullptr);
+            QVERIFY(m_loader.unload());
+            QVERIFY(!m_loader.isLoaded());
+        }
+    }
+
+private:
+    QList<QDesignerCustomWidgetInterface *> customWidgets()
+    {
+        auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_loader.instance());
+        return collection ? collection->customWidgets() : QList<QDesignerCustomWidgetInterface *>();
+    }
+
+    QPluginLoader m_loader;
+    std::unique_ptr<LogWatch> m_log;
+};
+
+QTEST_MAIN(TestLoader)
+#include "tst_loader.moc"
