@@ -6,8 +6,10 @@
 #include <QtCore/QEvent>
 #include <QtCore/QHash>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QLayout>
 
 #include <algorithm>
+#include <cstdlib>
 #include <limits>
 
 namespace Vexa {
@@ -20,20 +22,33 @@ constexpr QSize largestMinimum(240, 160);
 constexpr QSize smallestCell(16, 16);
 // Beyond this number of buttons the ones measured stand for all.
 constexpr int measuredButtons = 256;
+// Changing more buttons than this while they are on the screen takes longer than taking them off and on
+// again.
+constexpr int bulkChange = 128;
 } // namespace
+
+bool ButtonGrid::Contents::operator==(const Contents &other) const
+{
+    return rows == other.rows && columns == other.columns && texts == other.texts && icons == other.icons
+        && toolTips == other.toolTips;
+}
 
 ButtonGrid::ButtonGrid(Maker makeButton, unsigned int maximumSide, QWidget *parent)
     : QWidget(parent)
     , m_makeButton(makeButton)
     , m_maximumSide(maximumSide)
+    , m_panel(new QWidget(this))
 {
+    m_panel->installEventFilter(this);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
 void ButtonGrid::setContents(const Contents &contents)
 {
+    // Setting what is there already asks for the icons to be read again, since their resource may have
+    // changed.
+    m_iconsStale = m_iconsStale || contents == m_contents;
     m_contents = contents;
-    m_iconsStale = true;
     schedule();
 }
 
@@ -85,6 +100,14 @@ void ButtonGrid::refresh()
     place();
 }
 
+void ButtonGrid::layOutNow()
+{
+    // The control may have to give the grid another size first.
+    if (QLayout *around = parentWidget()->layout())
+        around->activate();
+    refresh();
+}
+
 void ButtonGrid::updateButtons()
 {
     if (!m_stale)
@@ -96,6 +119,11 @@ void ButtonGrid::updateButtons()
         m_rows = m_columns = 0;
     makeButtons(m_rows * m_columns);
 
+    int changes = 0;
+    const auto countChange = [this, &changes] {
+        if (++changes == bulkChange)
+            m_panel->hide();
+    };
     // The same few icons usually stand on many buttons.
     QHash<QString, QIcon> icons;
     qint64 index = 0;
@@ -106,8 +134,10 @@ void ButtonGrid::updateButtons()
             const int at = int(std::min<qint64>(index, std::numeric_limits<int>::max()));
             QAbstractButton *button = m_buttons.at(i);
             const QString text = m_contents.texts.value(at);
-            if (button->text() != text)
+            if (button->text() != text) {
+                countChange();
                 button->setText(text);
+            }
             const QString toolTip = m_contents.toolTips.value(at);
             if (button->toolTip() != toolTip)
                 button->setToolTip(toolTip);
@@ -117,6 +147,7 @@ void ButtonGrid::updateButtons()
             auto icon = icons.constFind(path);
             if (icon == icons.constEnd())
                 icon = icons.insert(path, iconFromPath(path));
+            countChange();
             button->setIcon(*icon);
             m_iconPaths[i] = path;
         }
@@ -128,16 +159,21 @@ void ButtonGrid::updateButtons()
 
 void ButtonGrid::makeButtons(int count)
 {
+    if (m_buttons.size() != count)
+        m_placedCells = QRect();
+    if (std::abs(m_buttons.size() - count) > bulkChange)
+        m_panel->hide();
     while (m_buttons.size() > count)
         delete m_buttons.takeLast();
     m_buttons.reserve(count);
     while (m_buttons.size() < count) {
-        QAbstractButton *button = m_makeButton(this);
+        QAbstractButton *button = m_makeButton(m_panel);
         connect(button, &QAbstractButton::clicked, this, [this, i = m_buttons.size()] {
             emit clicked(int(i / m_columns * m_contents.columns) + i % m_columns);
         });
         m_buttons.append(button);
-        button->show();
+        if (m_panel->isVisible())
+            button->show();
     }
     m_iconPaths.resize(count);
 }
@@ -163,9 +199,16 @@ QSize ButtonGrid::minimumSizeHint() const { return sizeHint().boundedTo(largestM
 
 void ButtonGrid::place()
 {
-    if (m_buttons.isEmpty())
+    const QRect wanted(QPoint(m_columns, m_rows), m_cell);
+    if (m_panel->size() == size() && m_placedCells == wanted) {
+        m_panel->show();
         return;
-    const int rowHeight = std::min(m_cell.height() + spacing, (height() + spacing) / m_rows);
+    }
+    m_placedCells = wanted;
+    if (m_buttons.size() > bulkChange)
+        m_panel->hide();
+    m_panel->setGeometry(rect());
+    const int rowHeight = std::min(m_cell.height() + spacing, (height() + spacing) / std::max(m_rows, 1));
     const int cellHeight = std::max(rowHeight - spacing, 1);
     const int fullWidth = width() + spacing;
     for (int i = 0; i < m_buttons.size(); ++i) {
@@ -174,16 +217,30 @@ void ButtonGrid::place()
         const int right = (column + 1) * fullWidth / m_columns - spacing;
         m_buttons.at(i)->setGeometry(left, i / m_columns * rowHeight, std::max(right - left, 1), cellHeight);
     }
+    m_panel->show();
 }
 
 bool ButtonGrid::event(QEvent *event)
 {
-    // Posted by schedule(), and by Qt when a button wants another size.
     if (event->type() == QEvent::LayoutRequest) {
         refresh();
         return true;
     }
     return QWidget::event(event);
+}
+
+bool ButtonGrid::eventFilter(QObject *watched, QEvent *event)
+{
+    // A button wants another size.
+    if (watched == m_panel && event->type() == QEvent::LayoutRequest) {
+        const QSize cellBefore = m_cell;
+        measure();
+        if (m_cell != cellBefore) {
+            updateGeometry();
+            place();
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void ButtonGrid::changeEvent(QEvent *event)

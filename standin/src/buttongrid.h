@@ -31,6 +31,8 @@ public:
         QStringList texts; ///< row-major, like the other two
         QStringList icons; ///< paths
         QStringList toolTips;
+
+        bool operator==(const Contents &other) const;
     };
 
     /// At most `maximumSide` rows and columns are ever made, whatever the contents ask for.
@@ -43,7 +45,7 @@ public:
     /// Checks the button at `index` and no other one, now and after every change.
     void setCheckedIndex(int index);
     /// Brings the buttons up to date and lays them out now.
-    void refresh();
+    void layOutNow();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -53,12 +55,14 @@ signals:
 
 protected:
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
     void schedule();
+    void refresh();
     void updateButtons();
     void updateChecks();
     void makeButtons(int count);
@@ -67,10 +71,12 @@ private:
 
     const Maker m_makeButton;
     const unsigned int m_maximumSide;
+    QWidget *const m_panel; ///< the parent of the buttons
     Contents m_contents;
     QVector<QAbstractButton *> m_buttons; ///< row-major in the grid that is made
     QVector<QString> m_iconPaths; ///< of the icons that the buttons have
     QSize m_cell;
+    QRect m_placedCells; ///< columns, rows and cell size of the last layout
     int m_rows = 0; ///< of the grid that is made
     int m_columns = 0;
     std::optional<int> m_checkedIndex; ///< nothing for a grid that is not one choice

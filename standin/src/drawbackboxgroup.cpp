@@ -100,10 +100,8 @@ void DrawbackBoxGroup::insertPage(int index, QWidget *page)
     if (owner && owner->parentWidget() == this && owner->widget() == page)
         return;
     const Change change(this);
-    DrawbackBox *box = m_boxesOfRemovedPages.take(page);
-    if (box)
-        disconnect(page, &QObject::destroyed, this, nullptr);
-    else
+    DrawbackBox *box = takeRemoved(page, nullptr).box;
+    if (!box)
         box = new DrawbackBox(this);
     box->setWidget(page);
     index = qBound(0, index, m_boxes.size());
@@ -127,8 +125,18 @@ void DrawbackBoxGroup::removePage(int index)
     drop(index, box);
     page->hide();
     page->setParent(this);
-    m_boxesOfRemovedPages.insert(page, box);
-    connect(page, &QObject::destroyed, this, [this](QObject *page) { m_boxesOfRemovedPages.remove(page); });
+    m_removedPages.append({page, box});
+}
+
+/// Finds a removed page or the box of one. Undo puts back what was removed last.
+DrawbackBoxGroup::RemovedPage DrawbackBoxGroup::takeRemoved(const QWidget *page, const DrawbackBox *box)
+{
+    for (int i = m_removedPages.size() - 1; i >= 0; --i) {
+        const RemovedPage &removed = m_removedPages.at(i);
+        if (removed.page && (removed.page == page || removed.box == box))
+            return m_removedPages.takeAt(i);
+    }
+    return {nullptr, nullptr};
 }
 
 int DrawbackBoxGroup::replaceBoxes(QList<Vexa::DrawbackBox *> boxes)
@@ -155,8 +163,7 @@ int DrawbackBoxGroup::replaceBoxes(QList<Vexa::DrawbackBox *> boxes)
     }
     for (DrawbackBox *box : qAsConst(shown)) {
         if (!box->widget()) {
-            QWidget *page = static_cast<QWidget *>(m_boxesOfRemovedPages.key(box));
-            m_boxesOfRemovedPages.remove(page);
+            QWidget *page = takeRemoved(nullptr, box).page;
             box->setWidget(page ? page : new QWidget);
         }
         if (!before.contains(box)) {
@@ -167,7 +174,7 @@ int DrawbackBoxGroup::replaceBoxes(QList<Vexa::DrawbackBox *> boxes)
     const int index = m_boxes.indexOf(current);
     const int last = m_boxes.size() - 1;
     m_current = -1;
-    setCurrent(index >= 0 ? index : qBound(-1, change.indexBefore(), last));
+    setCurrent(index >= 0 ? index : std::min(std::max(change.indexBefore(), 0), last));
     return m_boxes.size();
 }
 
@@ -299,8 +306,9 @@ void DrawbackBoxGroup::childEvent(QChildEvent *event)
     const int index = m_boxes.indexOf(box);
     if (index >= 0)
         drop(index, qobject_cast<DrawbackBox *>(event->child()));
-    else
-        m_boxesOfRemovedPages.remove(m_boxesOfRemovedPages.key(box));
+    const auto ofBox = [box](const RemovedPage &removed) { return removed.box == box; };
+    m_removedPages.erase(
+        std::remove_if(m_removedPages.begin(), m_removedPages.end(), ofBox), m_removedPages.end());
 }
 
 void DrawbackBoxGroup::paintEvent(QPaintEvent *)

@@ -84,7 +84,7 @@ void AbstractMatrixOptions::setToolTips(const QStringList &tips)
     change(m_grid, &Contents::toolTips, tips);
 }
 QAbstractButton *AbstractMatrixOptions::button(int index) { return m_grid->button(index); }
-void AbstractMatrixOptions::updateGeomtries() { m_grid->refresh(); }
+void AbstractMatrixOptions::updateGeomtries() { m_grid->layOutNow(); }
 
 MatrixPushButtons::MatrixPushButtons(QWidget *parent)
     : AbstractMatrixOptions(makePush, parent)
@@ -118,6 +118,6 @@ QStringList MatrixPopButtons::iconList() const { return m_grid->contents().icons
 void MatrixPopButtons::setIconList(const QStringList &icons) { change(m_grid, &Contents::icons, icons); }
 QStringList MatrixPopButtons::toolTips() const { return m_grid->contents().toolTips; }
 void MatrixPopButtons::setToolTips(const QStringList &tips) { change(m_grid, &Contents::toolTips, tips); }
-void MatrixPopButtons::updateGeomtries() { m_grid->refresh(); }
+void MatrixPopButtons::updateGeomtries() { m_grid->layOutNow(); }
 
 } // namespace Vexa

@@ -90,7 +90,7 @@ OptionButtons::OptionButtons(QWidget *parent)
     connect(m_grid, &ButtonGrid::clicked, this, &OptionButtons::setCurrentIndex);
 }
 
-void OptionButtons::updateGeomtries() { m_grid->refresh(); }
+void OptionButtons::updateGeomtries() { m_grid->layOutNow(); }
 
 void OptionButtons::showOptions() { m_grid->setContents(gridContents(*this, 1, unsigned(count()))); }
 
@@ -105,7 +105,7 @@ OptionRadios::OptionRadios(QWidget *parent)
     connect(m_grid, &ButtonGrid::clicked, this, &OptionRadios::setCurrentIndex);
 }
 
-void OptionRadios::updateGeomtries() { m_grid->refresh(); }
+void OptionRadios::updateGeomtries() { m_grid->layOutNow(); }
 
 void OptionRadios::showOptions() { m_grid->setContents(gridContents(*this, unsigned(count()), 1)); }
 

@@ -2,8 +2,9 @@
 
 #include <nui/Sorrel/SrGlobal.h>
 
-#include <QtCore/QHash>
 #include <QtCore/QList>
+#include <QtCore/QPointer>
+#include <QtCore/QVector>
 #include <QtWidgets/QWidget>
 
 class QScrollBar;
@@ -115,7 +116,12 @@ protected:
 
 private:
     class Change;
+    struct RemovedPage {
+        QPointer<QWidget> page;
+        DrawbackBox *box;
+    };
 
+    RemovedPage takeRemoved(const QWidget *page, const DrawbackBox *box);
     void adopt(DrawbackBox *box);
     void release(DrawbackBox *box);
     void drop(int index, DrawbackBox *box);
@@ -125,7 +131,7 @@ private:
     int headersHeight(int boxes) const;
 
     QList<DrawbackBox *> m_boxes;
-    QHash<QObject *, DrawbackBox *> m_boxesOfRemovedPages;
+    QVector<RemovedPage> m_removedPages;
     QScrollBar *m_scrollBar;
     int m_current = -1;
     int m_awaited = -1;
