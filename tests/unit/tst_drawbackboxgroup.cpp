@@ -1,0 +1,298 @@
+#include <nui/Sorrel/SrDrawbackBoxGroup.h>
+
+#include <QtTest/QSignalSpy>
+#include <QtTest/QtTest>
+
+#include <memory>
+
+using namespace Vexa;
+
+namespace {
+
+QWidget *page(const char *title)
+{
+    auto *widget = new QWidget;
+    widget->setWindowTitle(QLatin1String(title));
+    return widget;
+}
+
+QString titles(const DrawbackBoxGroup &group)
+{
+    QString all;
+    for (int i = 0; i < group.count(); ++i)
+        all += group.pageTitle(i);
+    return all;
+}
+
+} // namespace
+
+class DrawbackBoxGroups : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void pagesAreTitledByTheirWindows();
+    void indexFollowsItsPage_data();
+    void indexFollowsItsPage();
+    void onlyRealChangesAreSignalled();
+    void indexSetBeforeThePagesIsAwaited();
+    void onlyTheCurrentPageIsShown();
+    void titleBarMakesItsPageCurrent();
+    void removedPageComesBackInItsBox();
+    void removedPageOutlivesTheGroupElsewhere();
+    void boxesAreReplacedInOrder();
+    void replacedBoxesBelongToNobody();
+    void whatOthersDeleteLeavesTheGroup();
+    void pageMovesToAnotherGroup();
+    void manyBoxesScroll();
+    void boxAloneDrawsItselfBack();
+
+private:
+    std::unique_ptr<DrawbackBoxGroup> m_group;
+};
+
+void DrawbackBoxGroups::init()
+{
+    m_group = std::make_unique<DrawbackBoxGroup>();
+    m_group->resize(300, 400);
+    for (const char *title : {"a", "b", "c"})
+        QVERIFY(QMetaObject::invokeMethod(m_group.get(), "addPage", Q_ARG(QWidget *, page(title))));
+}
+
+void DrawbackBoxGroups::pagesAreTitledByTheirWindows()
+{
+    QCOMPARE(titles(*m_group), QStringLiteral("abc"));
+    QSignalSpy changed(m_group.get(), &DrawbackBoxGroup::pageTitleChanged);
+    m_group->setPageTitle(QStringLiteral("A"));
+    m_group->setPageTitle(QStringLiteral("A"));
+    m_group->widget(1)->setWindowTitle(QStringLiteral("B"));
+    QCOMPARE(titles(*m_group), QStringLiteral("ABc"));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.at(0).at(0).toString(), QStringLiteral("A"));
+    QCOMPARE(m_group->pageTitle(3), QString());
+    QVERIFY(!m_group->widget(-1) && !m_group->box(3));
+}
+
+void DrawbackBoxGroups::indexFollowsItsPage_data()
+{
+    QTest::addColumn<int>("current");
+    QTest::addColumn<int>("insertAt"); // or removed, as -1 - index
+    QTest::addColumn<QString>("expectedTitles");
+    QTest::addColumn<int>("expectedCurrent");
+    QTest::addColumn<int>("expectedSignals");
+    QTest::newRow("insert before") << 1 << 0 << "xabc" << 2 << 1;
+    QTest::newRow("insert at") << 1 << 1 << "axbc" << 2 << 1;
+    QTest::newRow("insert after") << 1 << 2 << "abxc" << 1 << 0;
+    QTest::newRow("insert far below") << 1 << 99 << "abcx" << 1 << 0;
+    QTest::newRow("remove before") << 1 << -1 << "bc" << 0 << 1;
+    QTest::newRow("remove the current one") << 1 << -2 << "ac" << 1 << 1;
+    QTest::newRow("remove the last, current one") << 2 << -3 << "ab" << 1 << 1;
+    QTest::newRow("remove after") << 1 << -3 << "ab" << 1 << 0;
+    QTest::newRow("remove nothing") << 1 << -9 << "abc" << 1 << 0;
+}
+
+void DrawbackBoxGroups::indexFollowsItsPage()
+{
+    QFETCH(int, current);
+    QFETCH(int, insertAt);
+    m_group->setCurrentIndex(current);
+    QSignalSpy changed(m_group.get(), &DrawbackBoxGroup::currentIndexChanged);
+    std::unique_ptr<QWidget> removed;
+    if (insertAt >= 0) {
+        m_group->insertPage(insertAt, page("x"));
+    } else {
+        removed.reset(m_group->widget(-1 - insertAt));
+        m_group->removePage(-1 - insertAt);
+        QVERIFY(!removed || removed->isHidden());
+    }
+    QTEST(titles(*m_group), "expectedTitles");
+    QTEST(m_group->currentIndex(), "expectedCurrent");
+    QTEST(changed.size(), "expectedSignals");
+    QVERIFY(m_group->box(m_group->currentIndex())->isExpanded());
+}
+
+void DrawbackBoxGroups::onlyRealChangesAreSignalled()
+{
+    QSignalSpy changed(m_group.get(), &DrawbackBoxGroup::currentIndexChanged);
+    for (int index : {0, -1, 3, 2, 2})
+        m_group->setCurrentIndex(index);
+    m_group->addPage(nullptr);
+    m_group->addPage(m_group->widget(1));
+    QCOMPARE(titles(*m_group), QStringLiteral("abc"));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(changed.at(0).at(0).toInt(), 2);
+    for (int i = 0; i < 3; ++i)
+        m_group->removePage(0);
+    QCOMPARE(m_group->currentIndex(), -1);
+    QCOMPARE(changed.last().at(0).toInt(), -1);
+}
+
+void DrawbackBoxGroups::indexSetBeforeThePagesIsAwaited()
+{
+    // A form sets the properties of a widget before it makes its pages.
+    DrawbackBoxGroup group;
+    group.setCurrentIndex(1);
+    QCOMPARE(group.currentIndex(), -1);
+    group.addPage(page("a"));
+    group.addPage(page("b"));
+    group.addPage(page("c"));
+    QCOMPARE(group.currentIndex(), 1);
+    QVERIFY(group.box(1)->isExpanded() && !group.box(0)->isExpanded());
+}
+
+void DrawbackBoxGroups::onlyTheCurrentPageIsShown()
+{
+    m_group->show();
+    for (int current : {2, 0, 1}) {
+        m_group->setCurrentIndex(current);
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(m_group->widget(i)->isVisible(), i == current);
+    }
+    QTRY_VERIFY(m_group->widget(1)->height() > 200);
+    QCOMPARE(m_group->box(2)->geometry().bottom(), m_group->rect().bottom());
+    QCOMPARE(m_group->box(0)->geometry().top(), 0);
+    QVERIFY(m_group->box(1)->geometry().top() > m_group->box(0)->geometry().bottom());
+}
+
+void DrawbackBoxGroups::titleBarMakesItsPageCurrent()
+{
+    m_group->show();
+    QTest::mouseClick(m_group->box(2), Qt::LeftButton, {}, QPoint(30, 5));
+    QCOMPARE(m_group->currentIndex(), 2);
+    QTest::keyClick(m_group->box(1), Qt::Key_Space);
+    QCOMPARE(m_group->currentIndex(), 1);
+    QTest::mouseClick(m_group->box(1), Qt::LeftButton, {}, QPoint(30, 5));
+    QCOMPARE(m_group->currentIndex(), 1);
+}
+
+void DrawbackBoxGroups::removedPageComesBackInItsBox()
+{
+    m_group->show();
+    QPointer<QWidget> removed = m_group->widget(1);
+    const DrawbackBox *box = m_group->box(1);
+    const QList<DrawbackBox *> before{m_group->box(0), m_group->box(1), m_group->box(2)};
+    m_group->removePage(1);
+    QWidget elsewhere;
+    removed->setParent(&elsewhere);
+    m_group->insertPage(1, removed);
+    m_group->setCurrentIndex(1);
+    QVERIFY(removed->isVisible());
+    // So a history that holds the boxes from before still holds boxes of the group.
+    QCOMPARE(m_group->box(1), box);
+    QCOMPARE(m_group->replaceBoxes(before), 3);
+    QCOMPARE(titles(*m_group), QStringLiteral("abc"));
+
+    // Put back by its box alone, the page comes along.
+    m_group->removePage(1);
+    QCOMPARE(m_group->replaceBoxes(before), 3);
+    QCOMPARE(m_group->widget(1), removed.data());
+}
+
+void DrawbackBoxGroups::removedPageOutlivesTheGroupElsewhere()
+{
+    QWidget elsewhere;
+    QPointer<QWidget> moved = m_group->widget(0);
+    QPointer<QWidget> left = m_group->widget(1);
+    m_group->removePage(0);
+    m_group->removePage(0);
+    moved->setParent(&elsewhere);
+    m_group.reset();
+    QVERIFY(moved);
+    QVERIFY(!left);
+}
+
+void DrawbackBoxGroups::boxesAreReplacedInOrder()
+{
+    auto *fresh = new DrawbackBox;
+    fresh->setWidget(page("x"));
+    auto *empty = new DrawbackBox;
+    m_group->setCurrentIndex(2);
+    QSignalSpy changed(m_group.get(), &DrawbackBoxGroup::currentIndexChanged);
+    DrawbackBox *const a = m_group->box(0);
+    DrawbackBox *const c = m_group->box(2);
+    const std::unique_ptr<DrawbackBox> b(m_group->box(1));
+    QCOMPARE(m_group->replaceBoxes({c, nullptr, fresh, c, a, empty}), 4);
+    QCOMPARE(titles(*m_group), QStringLiteral("cxa"));
+    QVERIFY(m_group->widget(3));
+    // The current page moved from the third to the first place.
+    QCOMPARE(m_group->currentIndex(), 0);
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(m_group->replaceBoxes({c, fresh, a, empty}), 4);
+    QCOMPARE(changed.size(), 1);
+}
+
+void DrawbackBoxGroups::replacedBoxesBelongToNobody()
+{
+    m_group->show();
+    const QList<DrawbackBox *> all{m_group->box(0), m_group->box(1), m_group->box(2)};
+    QCOMPARE(m_group->replaceBoxes({}), 0);
+    QCOMPARE(m_group->currentIndex(), -1);
+    for (const DrawbackBox *box : all)
+        QVERIFY(!box->parent() && !box->isVisible() && box->widget());
+    QCOMPARE(m_group->replaceBoxes(all), 3);
+    QCOMPARE(m_group->currentIndex(), 0);
+    QVERIFY(m_group->widget(0)->isVisible());
+    QCOMPARE(titles(*m_group), QStringLiteral("abc"));
+    qDeleteAll(all);
+    QCOMPARE(m_group->count(), 0);
+}
+
+void DrawbackBoxGroups::whatOthersDeleteLeavesTheGroup()
+{
+    m_group->show();
+    m_group->setCurrentIndex(1);
+    delete m_group->box(1);
+    QCOMPARE(titles(*m_group), QStringLiteral("ac"));
+    QCOMPARE(m_group->currentIndex(), 1);
+    delete m_group->widget(1);
+    QCOMPARE(titles(*m_group), QStringLiteral("a"));
+    QCOMPARE(m_group->currentIndex(), 0);
+    m_group->widget(0)->setParent(nullptr);
+    QCOMPARE(m_group->count(), 0);
+    QCOMPARE(m_group->currentIndex(), -1);
+}
+
+void DrawbackBoxGroups::pageMovesToAnotherGroup()
+{
+    DrawbackBoxGroup other;
+    other.addPage(m_group->widget(0));
+    QCOMPARE(titles(other), QStringLiteral("a"));
+    QCOMPARE(titles(*m_group), QStringLiteral("bc"));
+    other.replaceBoxes({other.box(0), m_group->box(0)});
+    QCOMPARE(titles(other), QStringLiteral("ab"));
+    QCOMPARE(titles(*m_group), QStringLiteral("c"));
+    m_group->box(0)->widget()->setWindowTitle(QStringLiteral("C"));
+    QCOMPARE(titles(*m_group), QStringLiteral("C"));
+}
+
+void DrawbackBoxGroups::manyBoxesScroll()
+{
+    for (int i = 0; i < 1000; ++i)
+        m_group->addPage(page("x"));
+    QVERIFY(m_group->minimumSizeHint().height() < 800);
+    m_group->show();
+    for (int current : {900, 5, 1002}) {
+        m_group->setCurrentIndex(current);
+        const DrawbackBox *box = m_group->box(current);
+        QTRY_VERIFY(box->y() >= 0 && box->geometry().bottom() <= m_group->height());
+    }
+}
+
+void DrawbackBoxGroups::boxAloneDrawsItselfBack()
+{
+    DrawbackBox box;
+    box.setWidget(page("a"));
+    box.resize(200, 200);
+    box.show();
+    QCOMPARE(box.title(), QStringLiteral("a"));
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(30, 5));
+    QVERIFY(!box.isExpanded() && !box.widget()->isVisible());
+    QVERIFY(box.sizeHint().height() <= box.headerHeight());
+    const std::unique_ptr<QWidget> taken(box.widget());
+    box.setWidget(nullptr);
+    QVERIFY(!taken->parent() && taken->isHidden());
+    QCOMPARE(box.title(), QString());
+}
+
+QTEST_MAIN(DrawbackBoxGroups)
+#include "tst_drawbackboxgroup.moc"

@@ -1,0 +1,157 @@
+#include <nui/Sorrel/SrMatrixButtons.h>
+#include <nui/Sorrel/SrMatrixPopButtons.h>
+
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QtTest>
+#include <QtWidgets/QAbstractButton>
+
+using namespace Vexa;
+
+namespace {
+
+QStringList strings(const char *words) { return QString::fromLatin1(words).split(QLatin1Char(' ')); }
+
+QStringList numbered(int count)
+{
+    QStringList list;
+    for (int i = 0; i < count; ++i)
+        list.append(QString::number(i));
+    return list;
+}
+
+} // namespace
+
+class GridControls : public QObject {
+    Q_OBJECT
+
+private slots:
+    void gridIsRowMajor();
+    void gridReportsWhatWasSetAndMakesAtMost99By99_data();
+    void gridReportsWhatWasSetAndMakesAtMost99By99();
+    void gridKeepsItsButtonsAndChecksOverChanges();
+    void sameTextListReadsTheIconsAgain();
+    void clickedGridButtonTriggersItsAction();
+};
+
+void GridControls::gridIsRowMajor()
+{
+    MatrixPushButtons grid;
+    grid.setRow(2);
+    grid.setColumn(3);
+    grid.setTextList(strings("a b c d"));
+    grid.resize(300, 100);
+    grid.show();
+    QCOMPARE(grid.button(2)->text(), QStringLiteral("c"));
+    QCOMPARE(grid.button(3)->text(), QStringLiteral("d"));
+    QCOMPARE(grid.button(5)->text(), QString());
+    QVERIFY(!grid.button(6));
+    QVERIFY(!grid.button(-1));
+    QCOMPARE(grid.button(0)->y(), grid.button(2)->y());
+    QCOMPARE(grid.button(0)->x(), grid.button(3)->x());
+    QVERIFY(grid.button(3)->y() > grid.button(0)->y());
+}
+
+void GridControls::gridReportsWhatWasSetAndMakesAtMost99By99_data()
+{
+    QTest::addColumn<unsigned int>("rows");
+    QTest::addColumn<unsigned int>("columns");
+    QTest::addColumn<int>("buttons");
+    QTest::newRow("no rows") << 0u << 5u << 0;
+    QTest::newRow("no columns") << 5u << 0u << 0;
+    QTest::newRow("the most") << 99u << 99u << 9801;
+    QTest::newRow("too many rows") << 100u << 2u << 198;
+    QTest::newRow("too many columns") << 2u << 1000u << 198;
+    QTest::newRow("a negative number in the form") << unsigned(-3) << 1u << 99;
+    QTest::newRow("absurd") << ~0u << ~0u << 9801;
+}
+
+void GridControls::gridReportsWhatWasSetAndMakesAtMost99By99()
+{
+    QFETCH(unsigned int, rows);
+    QFETCH(unsigned int, columns);
+    MatrixPushButtons grid;
+    MatrixPopButtons popGrid;
+    grid.setRow(rows);
+    grid.setColumn(columns);
+    popGrid.setRow(rows);
+    popGrid.setColumn(columns);
+    grid.setTextList(numbered(3000));
+    grid.updateGeomtries();
+    QCOMPARE(grid.row(), rows);
+    QCOMPARE(grid.column(), columns);
+    QCOMPARE(popGrid.row(), rows);
+    QCOMPARE(popGrid.column(), columns);
+    QTEST(grid.findChildren<QAbstractButton *>().size(), "buttons");
+    if (rows > 1000)
+        return;
+    popGrid.updateGeomtries();
+    QTEST(popGrid.findChildren<QAbstractButton *>().size(), "buttons");
+    // The index counts the columns that were asked for, made or not.
+    if (columns == 1000) {
+        QVERIFY(!grid.button(99));
+        QCOMPARE(grid.button(1000)->text(), QStringLiteral("1000"));
+    }
+    QVERIFY(grid.minimumSizeHint().width() < 400);
+}
+
+void GridControls::gridKeepsItsButtonsAndChecksOverChanges()
+{
+    MatrixCheckBoxes grid;
+    grid.setTextList(strings("a b c d"));
+    QPointer<QAbstractButton> button = grid.button(1);
+    button->setChecked(true);
+    grid.setTextList({});
+    grid.setTextList(strings("a x c d"));
+    QCOMPARE(grid.button(1), button.data());
+    QCOMPARE(button->text(), QStringLiteral("x"));
+    QVERIFY(button->isChecked());
+
+    grid.setRow(1);
+    grid.setColumn(1);
+    QVERIFY(!grid.button(1));
+    QVERIFY(!button);
+    grid.setColumn(2);
+    grid.show();
+    QTRY_VERIFY(grid.button(1)->isVisible() && grid.button(1)->x() > 0);
+}
+
+void GridControls::sameTextListReadsTheIconsAgain()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("icon.png"));
+    MatrixPushButtons grid;
+    grid.setTextList(strings("a b"));
+    grid.setIconList({path});
+    QVERIFY(grid.button(0)->icon().isNull());
+
+    QImage image(8, 8, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(path));
+    grid.setTextList(grid.textList());
+    QVERIFY(!grid.button(0)->icon().isNull());
+    QVERIFY(grid.button(1)->icon().isNull());
+    grid.setIconList({});
+    QVERIFY(grid.button(0)->icon().isNull());
+}
+
+void GridControls::clickedGridButtonTriggersItsAction()
+{
+    MatrixPopButtons grid;
+    grid.setTextList(strings("a b"));
+    grid.setActionList(strings("open close"));
+    grid.updateGeomtries();
+    QSignalSpy clicked(&grid, &MatrixPopButtons::buttonClicked);
+    QSignalSpy triggered(&grid, &MatrixPopButtons::actionTriggered);
+    const QList<QAbstractButton *> buttons = grid.findChildren<QAbstractButton *>();
+    buttons.at(1)->click();
+    buttons.at(3)->click();
+    QCOMPARE(clicked.size(), 2);
+    QCOMPARE(clicked.at(1).at(0).toInt(), 3);
+    QCOMPARE(triggered.size(), 1);
+    QCOMPARE(triggered.at(0).at(0).toString(), QStringLiteral("close"));
+}
+
+QTEST_MAIN(GridControls)
+#include "tst_gridcontrols.moc"
