@@ -46,7 +46,7 @@ private:
         if (!m_control)
             return;
         write(contents, m_control);
-        if (m_control && m_slot)
+        if (m_slot) // for a control that went with the write this does nothing
             QMetaObject::invokeMethod(m_control, m_slot);
     }
 
