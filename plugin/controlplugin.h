@@ -2,6 +2,7 @@
 
 #include "catalogue.h"
 
+#include <QtDesigner/QExtensionManager>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 #include <QtCore/QObject>
@@ -9,7 +10,6 @@
 
 class QDesignerFormEditorInterface;
 class QDesignerPropertyEditorInterface;
-class QExtensionManager;
 class QtResourceSet;
 
 /// The descriptor of one control: answers Designer's questions from a row of the catalogue.
@@ -89,6 +89,21 @@ protected:
 
 protected slots:
     void resourceSetActivated(QtResourceSet *resourceSet, bool resourceSetChanged);
+};
+
+/// A descriptor whose control has the task menu that \a Factory makes.
+template <typename Factory, typename Base = ControlPlugin>
+class WithTaskMenu : public Base {
+public:
+    using Base::Base;
+
+protected:
+    void registerExtensions(QExtensionManager *manager, QDesignerFormEditorInterface *core) override
+    {
+        Base::registerExtensions(manager, core);
+        manager->registerExtensions(
+            new Factory(manager, core), QStringLiteral("org.qt-project.Qt.Designer.TaskMenu"));
+    }
 };
 
 /// Binds a control class to its row and to the watching that it needs.

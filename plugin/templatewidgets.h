@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controlplugin.h"
+#include "editing/listtaskmenus.h"
 
 #include <sorrel/ColorTransfer.h>
 #include <sorrel/SrAngle.h>
@@ -90,7 +91,8 @@ public:
     using Descriptor::Descriptor;
 };
 
-class OptionButtonsPlugin final : public Descriptor<Vexa::OptionButtons, rowOf("Vexa::OptionButtons")> {
+class OptionButtonsPlugin final : public Descriptor<Vexa::OptionButtons, rowOf("Vexa::OptionButtons"),
+                                      WithTaskMenu<OptionButtonsFactory>> {
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
@@ -105,13 +107,15 @@ protected:
     void registerExtensions(QExtensionManager *manager, QDesignerFormEditorInterface *core) override;
 };
 
-class OptionComboBoxPlugin final : public Descriptor<Vexa::OptionComboBox, rowOf("Vexa::OptionComboBox")> {
+class OptionComboBoxPlugin final : public Descriptor<Vexa::OptionComboBox, rowOf("Vexa::OptionComboBox"),
+                                       WithTaskMenu<OptionComboFactory>> {
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
 };
 
-class OptionRadiosPlugin final : public Descriptor<Vexa::OptionRadios, rowOf("Vexa::OptionRadios")> {
+class OptionRadiosPlugin final
+    : public Descriptor<Vexa::OptionRadios, rowOf("Vexa::OptionRadios"), WithTaskMenu<OptionRadiosFactory>> {
     Q_OBJECT
 public:
     using Descriptor::Descriptor;

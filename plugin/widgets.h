@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controlplugin.h"
+#include "editing/listtaskmenus.h"
 
 #include <sorrel/SrColorButton.h>
 #include <sorrel/SrColorPanel.h>
@@ -35,7 +36,7 @@ public:
 
 class CheckableTextComboBoxPlugin final
     : public Descriptor<Vexa::CheckableTextComboBox, rowOf("Vexa::CheckableTextComboBox"),
-          PropertyWatchingControlPlugin> {
+          WithTaskMenu<CheckComboFactory, PropertyWatchingControlPlugin>> {
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
@@ -60,8 +61,8 @@ public:
     using Descriptor::Descriptor;
 };
 
-class ComboBoxPlugin final
-    : public Descriptor<Vexa::ComboBox, rowOf("Vexa::ComboBox"), CoreKeepingControlPlugin> {
+class ComboBoxPlugin final : public Descriptor<Vexa::ComboBox, rowOf("Vexa::ComboBox"),
+                                 WithTaskMenu<ComboBoxFactory, CoreKeepingControlPlugin>> {
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
