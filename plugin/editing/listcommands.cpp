@@ -4,6 +4,8 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 // The controls' slot is spelled so.
@@ -18,7 +20,11 @@ ChangeComboBoxCommand::ChangeComboBoxCommand(QDesignerFormWindowInterface *formW
 
 void ChangeComboBoxCommand::write(const ListContents &contents, Vexa::ComboBox *comboBox)
 {
+    // New items make the first one current, which is not what the user chose on the form.
+    if (!m_currentIndex)
+        m_currentIndex = comboBox->count() ? comboBox->currentIndex() : 0;
     applyToComboBox(contents, comboBox, iconCache());
+    comboBox->setCurrentIndex(std::min(*m_currentIndex, comboBox->count() - 1));
 }
 
 ChangeCheckComboCommand::ChangeCheckComboCommand(QDesignerFormWindowInterface *formWindow)

@@ -9,6 +9,8 @@
 #include <sorrel/SrOptionComboBox.h>
 #include <sorrel/SrOptionRadios.h>
 
+#include <optional>
+
 // The undo steps of the combo boxes have no text in the undo list, those of the options have one.
 
 class ChangeComboBoxCommand final : public ChangeContentsCommand<Vexa::ComboBox, ListContents> {
@@ -17,6 +19,8 @@ public:
 
 private:
     void write(const ListContents &contents, Vexa::ComboBox *comboBox) override;
+
+    std::optional<int> m_currentIndex; ///< before the first write
 };
 
 class ChangeCheckComboCommand final

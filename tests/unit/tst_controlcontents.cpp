@@ -120,6 +120,7 @@ private slots:
     void commandsUndoAndRedo_data() { addKinds(); }
     void commandsUndoAndRedo();
     void commandsLayOutOptions();
+    void comboBoxCommandKeepsTheCurrentItem();
 
     void readsListsOfAnyLength_data();
     void readsListsOfAnyLength();
@@ -195,6 +196,29 @@ void tst_ControlContents::commandsLayOutOptions()
     check(buttons, new ChangeOptionButtonsCommand(nullptr));
     CountingRadios radios;
     check(radios, new ChangeOptionRadiosCommand(nullptr));
+}
+
+void tst_ControlContents::comboBoxCommandKeepsTheCurrentItem()
+{
+    const ListContents three{textEntry("a"), textEntry("b"), textEntry("c")};
+    for (const int chosen : {2, 0, -1}) {
+        Vexa::ComboBox comboBox;
+        applyToComboBox(three, &comboBox, nullptr);
+        comboBox.setCurrentIndex(chosen);
+        QUndoStack stack;
+        auto command = new ChangeComboBoxCommand(nullptr);
+        command->init(&comboBox, three, {textEntry("A"), textEntry("B")});
+        stack.push(command);
+        QCOMPARE(comboBox.currentIndex(), std::min(chosen, 1));
+        stack.undo();
+        QCOMPARE(comboBox.currentIndex(), chosen);
+    }
+    Vexa::ComboBox empty;
+    QUndoStack stack;
+    auto command = new ChangeComboBoxCommand(nullptr);
+    command->init(&empty, {}, three);
+    stack.push(command);
+    QCOMPARE(empty.currentIndex(), 0);
 }
 
 void tst_ControlContents::readsListsOfAnyLength_data()
