@@ -16,6 +16,8 @@ namespace Vexa {
 
 namespace {
 constexpr int spacing = 2;
+// The size hint of a tool button leaves no air beside its text.
+constexpr QSize padding(6, 0);
 // A grid of thousands of buttons must not blow up the panel it stands in: the cells shrink instead.
 constexpr QSize largestHint(800, 600);
 constexpr QSize largestMinimum(240, 160);
@@ -183,7 +185,7 @@ void ButtonGrid::measure()
     m_cell = smallestCell;
     const int count = std::min(m_buttons.size(), measuredButtons);
     for (int i = 0; i < count; ++i)
-        m_cell = m_cell.expandedTo(m_buttons.at(i)->sizeHint());
+        m_cell = m_cell.expandedTo(m_buttons.at(i)->sizeHint() + padding);
 }
 
 QSize ButtonGrid::sizeHint() const
