@@ -221,6 +221,9 @@ void FormBuilders::actionsOfItemsWithoutElementsKeepTheirPlace()
     const QString a = value(itemText, "text", "a");
     QCOMPARE(save(&comboBox, item(a) + item(a)),
         item(a + value(itemData, "action", "one")) + item(a + value(itemData, "action", "two")));
+    // The elements are fewer than the items, and so are the actions.
+    comboBox.setActionList(strings("lost one"));
+    QCOMPARE(save(&comboBox, item(a) + item(a)), item(a + value(itemData, "action", "one")) + item(a));
 
     // More actions than items have no place in the items.
     comboBox.setActionList(strings("1 2 3 4"));
