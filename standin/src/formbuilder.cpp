@@ -14,6 +14,7 @@
 #include <QtCore/QVector>
 
 #include <algorithm>
+#include <optional>
 
 namespace Vexa {
 
@@ -195,14 +196,16 @@ void saveActions(DomWidget *node, const QComboBox *comboBox)
 
 // --- Loading ---
 
-/// Null for a value that is no text.
-QString textOf(const DomProperty *property)
+/// Nothing for a value that is no text.
+std::optional<QString> textOf(const DomProperty *property)
 {
     switch (property->kind()) {
     case DomProperty::String:
-        return property->elementString() ? property->elementString()->text() + QLatin1String("") : QString();
+        if (!property->elementString())
+            return {};
+        return property->elementString()->text();
     case DomProperty::Cstring:
-        return property->elementCstring() + QLatin1String("");
+        return property->elementCstring();
     case DomProperty::Number:
         return QString::number(property->elementNumber());
     default:
@@ -217,12 +220,12 @@ QStringList listFromItems(const QVector<DomItem *> &items, const Field &field)
     for (int i = 0; i < items.size(); ++i) {
         const DomProperty *property
             = items.at(i) ? find(items.at(i)->elementProperty(), field.inItem) : nullptr;
-        const QString text = property ? textOf(property) : QString();
-        if (text.isNull())
+        const std::optional<QString> text = property ? textOf(property) : std::nullopt;
+        if (!text)
             continue;
         while (list.size() < i)
             list.append(QString());
-        list.append(text);
+        list.append(*text);
     }
     return list;
 }
