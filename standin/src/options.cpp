@@ -9,6 +9,7 @@
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QLayout>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QToolButton>
 
@@ -101,6 +102,8 @@ OptionRadios::OptionRadios(QWidget *parent)
     , m_grid(new ButtonGrid(makeRadio, maximumButtons, this))
 {
     addField(m_grid, 1);
+    // Beside the first of several buttons.
+    layout()->itemAt(0)->setAlignment(Qt::AlignTop);
     m_grid->setCheckedIndex(currentIndex());
     connect(m_grid, &ButtonGrid::clicked, this, &OptionRadios::setCurrentIndex);
 }
