@@ -40,6 +40,24 @@ class TestForms : public HostTest {
     Q_OBJECT
 
 private slots:
+    void examplesAreStable_data()
+    {
+        QTest::addColumn<QString>("fileName");
+        const QDir examples(QStringLiteral(EXAMPLES));
+        const QFileInfoList files = examples.entryInfoList({QStringLiteral("*.ui")});
+        QVERIFY(files.size() >= 4);
+        for (const QFileInfo &file : files)
+            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+    }
+    void examplesAreStable()
+    {
+        QFETCH(QString, fileName);
+        QFile file(fileName);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        compareTexts(reopened(text, fileName), text);
+    }
+
     /// Contents that were set past the property sheet, as the contents commands do it.
     void extraDataSurvives_data()
     {
