@@ -1,11 +1,210 @@
 #include "itemlistwidget.h"
 
+#include <QtCore/QEvent>
+#include <QtWidgets/QStyledItemDelegate>
+
+#include <algorithm>
+
 namespace qdesigner_internal {
+
+namespace {
+
+// How many rows are measured in one go: about as many as are seen at a time, half a millisecond's work.
+constexpr int rowsPerStep = 100;
+
+} // namespace
+
+/// Says how large the rows are. It remembers what it has measured.
+class RowSizes : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        if (index.row() >= m_sizes.size())
+            return QStyledItemDelegate::sizeHint(option, index);
+        const QSize size = m_sizes.at(index.row());
+        if (size.isValid())
+            return size;
+        if (m_allowance == 0)
+            return m_estimate;
+        --m_allowance;
+        measure(option, index);
+        return m_sizes.at(index.row());
+    }
+
+    /// Measures a row that is not measured yet; true if its size is not what sizeHint() said until now.
+    bool measure(const QStyleOptionViewItem &option, const QModelIndex &index) const
+    {
+        QSize &size = m_sizes[index.row()];
+        if (size.isValid())
+            return false;
+        size = QStyledItemDelegate::sizeHint(option, index);
+        if (!m_estimate.isValid())
+            m_estimate = size;
+        return size != m_estimate;
+    }
+
+    /// sizeHint() measures up to \a count more rows, then it estimates.
+    void setAllowance(int count) { m_allowance = count; }
+
+    /// The first unmeasured row, the number of rows if there is none.
+    int firstUnmeasured()
+    {
+        while (m_measured < m_sizes.size() && m_sizes.at(m_measured).isValid())
+            ++m_measured;
+        return m_measured;
+    }
+
+    QSize size(int row) const { return m_sizes.at(row); }
+    void insert(int first, int count)
+    {
+        m_sizes.insert(first, count, QSize());
+        m_measured = std::min(m_measured, first);
+    }
+    void remove(int first, int count)
+    {
+        m_sizes.remove(first, count);
+        m_measured = std::min(m_measured, first);
+    }
+    void forget(int first, int last)
+    {
+        std::fill(m_sizes.begin() + first, m_sizes.begin() + last + 1, QSize());
+        m_measured = std::min(m_measured, first);
+    }
+    void reset(int count)
+    {
+        m_sizes.fill(QSize(), count);
+        m_estimate = QSize();
+        m_measured = 0;
+    }
+
+private:
+    mutable QVector<QSize> m_sizes;
+    mutable QSize m_estimate;
+    mutable int m_allowance = 0;
+    int m_measured = 0; // no row before it is unmeasured
+};
 
 ItemListWidget::ItemListWidget(QWidget *parent)
     : QListWidget(parent)
+    , m_sizes(new RowSizes(this))
 {
-    setLayoutMode(QListView::Batched);
+    setItemDelegate(m_sizes);
+    connect(model(), SIGNAL(rowsRemoved(QModelIndex, int, int)), this,
+        SLOT(forgetRemovedRows(QModelIndex, int, int)));
+    connect(
+        model(), SIGNAL(rowsMoved(QModelIndex, int, int, QModelIndex, int)), this, SLOT(forgetAllSizes()));
+    connect(model(), SIGNAL(layoutChanged()), this, SLOT(forgetAllSizes()));
+    connect(this, SIGNAL(iconSizeChanged(QSize)), this, SLOT(forgetAllSizes()));
+}
+
+void ItemListWidget::doItemsLayout()
+{
+    m_sizes->setAllowance(rowsPerStep);
+    QListWidget::doItemsLayout();
+    m_sizes->setAllowance(0);
+    m_measureTimer.start(0, this);
+}
+
+void ItemListWidget::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    // The way to a row is only right if the rows around it are.
+    if (index.isValid() && measureRows(index.row() - rowsPerStep / 2, index.row() + rowsPerStep / 2))
+        scheduleDelayedItemsLayout();
+    QListWidget::scrollTo(index, hint);
+}
+
+void ItemListWidget::reset()
+{
+    forgetAllSizes();
+    QListWidget::reset();
+}
+
+void ItemListWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        forgetAllSizes();
+    QListWidget::changeEvent(event);
+}
+
+void ItemListWidget::paintEvent(QPaintEvent *event)
+{
+    while (measureVisibleRows())
+        doItemsLayout();
+    QListWidget::paintEvent(event);
+}
+
+void ItemListWidget::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != m_measureTimer.timerId()) {
+        QListWidget::timerEvent(event);
+        return;
+    }
+    const int first = m_sizes->firstUnmeasured();
+    m_misplaced |= measureRows(first, first + rowsPerStep - 1);
+    if (m_sizes->firstUnmeasured() < count())
+        return;
+    m_measureTimer.stop();
+    if (m_misplaced)
+        QListWidget::doItemsLayout();
+    m_misplaced = false;
+}
+
+bool ItemListWidget::measureVisibleRows()
+{
+    bool changed = false;
+    const int bottom = viewport()->height();
+    QModelIndex index = indexAt({viewport()->width() / 2, 0});
+    for (; index.isValid() && visualRect(index).top() < bottom; index = index.siblingAtRow(index.row() + 1))
+        changed |= m_sizes->measure(viewOptions(), index);
+    return changed;
+}
+
+bool ItemListWidget::measureRows(int first, int last)
+{
+    const QStyleOptionViewItem option = viewOptions();
+    bool changed = false;
+    for (int row = std::max(first, 0), end = std::min(last + 1, count()); row < end; ++row)
+        changed |= m_sizes->measure(option, model()->index(row, 0));
+    return changed;
+}
+
+void ItemListWidget::rowsInserted(const QModelIndex &parent, int first, int last)
+{
+    m_sizes->insert(first, last - first + 1);
+    // A row that comes to the ones on the screen is seen next; those of a list being filled may never be.
+    if (isVisible())
+        measureRows(first, std::min(last, first + rowsPerStep));
+    QListWidget::rowsInserted(parent, first, last);
+}
+
+void ItemListWidget::dataChanged(
+    const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles)
+{
+    const int row = topLeft.row();
+    const QSize oldSize = m_sizes->size(row);
+    m_sizes->forget(row, bottomRight.row());
+    measureRows(row, row);
+    // As long as no row is wider than the view, their widths are of no account.
+    const QSize size = m_sizes->size(row);
+    const bool inPlace = row == bottomRight.row() && size.height() == oldSize.height()
+        && std::max(size.width(), oldSize.width()) <= viewport()->width();
+    if (inPlace)
+        QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
+    else
+        QListWidget::dataChanged(topLeft, bottomRight, roles);
+}
+
+void ItemListWidget::forgetRemovedRows(const QModelIndex &, int first, int last)
+{
+    m_sizes->remove(first, last - first + 1);
+}
+
+void ItemListWidget::forgetAllSizes()
+{
+    m_sizes->reset(count());
+    scheduleDelayedItemsLayout();
 }
 
 } // namespace qdesigner_internal
