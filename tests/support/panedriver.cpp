@@ -1,0 +1,119 @@
+#include "panedriver.h"
+
+#include <QtCore/QTimer>
+#include <QtTest/QtTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QToolButton>
+#include <QtWidgets/QTreeView>
+
+PaneDriver::PaneDriver(QWidget *itemEditor)
+    : m_tree(itemEditor->findChild<QTreeView *>())
+{
+    Q_ASSERT(m_tree);
+}
+
+QStringList PaneDriver::names(const QString &path) const
+{
+    const QModelIndex parent = value(path).siblingAtColumn(0);
+    QStringList names;
+    for (int row = 0; row < m_tree->model()->rowCount(parent); ++row)
+        names += m_tree->model()->index(row, 0, parent).data().toString();
+    return names;
+}
+
+QModelIndex PaneDriver::value(const QString &path) const
+{
+    QModelIndex found;
+    const QStringList names = path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
+    for (const QString &name : names) {
+        const QModelIndexList matches = m_tree->model()->match(
+            m_tree->model()->index(0, 0, found), Qt::DisplayRole, name, 1, Qt::MatchExactly);
+        if (matches.isEmpty())
+            return QModelIndex();
+        found = matches.first();
+    }
+    return found.siblingAtColumn(1);
+}
+
+QString PaneDriver::valueText(const QString &path) const { return value(path).data().toString(); }
+
+bool PaneDriver::isModified(const QString &path) const
+{
+    return value(path).siblingAtColumn(0).data(Qt::FontRole).value<QFont>().bold();
+}
+
+QWidget *PaneDriver::open(const QString &path)
+{
+    const QModelIndex index = value(path);
+    m_tree->scrollTo(index);
+    QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, m_tree->visualRect(index).center());
+    return editor(path);
+}
+
+QWidget *PaneDriver::editor(const QString &path) const { return m_tree->indexWidget(value(path)); }
+
+void PaneDriver::type(const QString &path, const QString &text)
+{
+    if (!open(path))
+        return;
+    QLineEdit *edit = lineEdit(path);
+    edit->selectAll();
+    if (text.isEmpty())
+        QTest::keyClick(edit, Qt::Key_Delete);
+    else
+        QTest::keyClicks(edit, text);
+}
+
+void PaneDriver::reset(const QString &path)
+{
+    if (open(path))
+        QTest::mouseClick(resetButton(path), Qt::LeftButton);
+}
+
+// The reset button has an icon and no text, the other one three dots.
+QToolButton *PaneDriver::resetButton(const QString &path) const
+{
+    const QWidget *widget = editor(path);
+    const auto buttons = widget ? widget->findChildren<QToolButton *>() : QList<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        if (button->text().isEmpty() && button->isVisible() && button->parentWidget() == widget)
+            return button;
+    }
+    return nullptr;
+}
+
+QToolButton *PaneDriver::moreButton(const QString &path) const
+{
+    const QWidget *widget = editor(path);
+    const auto buttons = widget ? widget->findChildren<QToolButton *>() : QList<QToolButton *>();
+    for (QToolButton *button : buttons) {
+        if (button->text() == QLatin1String("...") && button->isVisible())
+            return button;
+    }
+    return nullptr;
+}
+
+QLineEdit *PaneDriver::lineEdit(const QString &path) const
+{
+    const QWidget *widget = editor(path);
+    return widget ? widget->findChild<QLineEdit *>() : nullptr;
+}
+
+bool PaneDriver::withDialog(
+    const std::function<void()> &action, const std::function<void(QWidget *)> &inDialog)
+{
+    bool shown = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        QWidget *dialog = QApplication::activeModalWidget();
+        if (!dialog || !dialog->isVisible() || shown)
+            return;
+        shown = true;
+        timer.stop();
+        inDialog(dialog);
+    });
+    timer.start(0);
+    action();
+    return shown;
+}

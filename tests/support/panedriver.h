@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QtCore/QModelIndex>
+#include <QtCore/QStringList>
+
+#include <functional>
+
+class QLineEdit;
+class QToolButton;
+class QTreeView;
+class QWidget;
+
+/// Works the property pane of an item editor with mouse and keyboard. A row is named by the path of the names
+/// that lead to it, "icon/Normal Off". The pane has to be on the screen.
+class PaneDriver {
+public:
+    explicit PaneDriver(QWidget *itemEditor);
+
+    QTreeView *tree() const { return m_tree; }
+    /// The names of the rows, or of the sub rows of a row.
+    QStringList names(const QString &path = QString()) const;
+    /// The value cell of a row, invalid if there is none.
+    QModelIndex value(const QString &path) const;
+    QString valueText(const QString &path) const;
+    /// Whether the name stands in bold.
+    bool isModified(const QString &path) const;
+
+    /// Opens a row's editor by a click into its value. Null if none opens.
+    QWidget *open(const QString &path);
+    /// The editor that is open on a row.
+    QWidget *editor(const QString &path) const;
+    /// Opens a row's editor and types \a text in place of its text.
+    void type(const QString &path, const QString &text);
+    /// Opens a row's editor and clicks its reset button.
+    void reset(const QString &path);
+    /// The button at the end of an open editor, and the one that offers another way to edit.
+    QToolButton *resetButton(const QString &path) const;
+    QToolButton *moreButton(const QString &path) const;
+    QLineEdit *lineEdit(const QString &path) const;
+
+    /// Calls \a action, which opens a modal dialog, and \a inDialog with that dialog; it has to close it.
+    /// False if no dialog came up.
+    static bool withDialog(
+        const std::function<void()> &action, const std::function<void(QWidget *)> &inDialog);
+
+private:
+    QTreeView *m_tree;
+};

@@ -1,0 +1,176 @@
+#include "logwatch.h"
+
+#include <propertyeditor/itemlistwidget.h>
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QScrollBar>
+
+#include <functional>
+#include <memory>
+
+using qdesigner_internal::ItemListWidget;
+
+namespace {
+
+/// Counts the rows that are measured.
+class CountingStyle : public QProxyStyle {
+public:
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+        const QWidget *widget) const override
+    {
+        if (type == CT_ItemViewItem)
+            ++count;
+        return QProxyStyle::sizeFromContents(type, option, size, widget);
+    }
+    mutable int count = 0;
+};
+
+QListWidgetItem *makeItem(int number)
+{
+    auto *item = new QListWidgetItem(QStringLiteral("Item %1").arg(number));
+    if (number % 7 == 0)
+        item->setText(item->text() + QLatin1String("\nand a second line that is wider than the view is"));
+    if (number % 5 == 0)
+        item->setIcon(QApplication::style()->standardIcon(QStyle::SP_ComputerIcon));
+    return item;
+}
+
+void fill(QListWidget *list, int count)
+{
+    for (int i = 0; i < count; ++i)
+        list->addItem(makeItem(i));
+    list->resize(200, 300);
+    list->show();
+}
+
+QVector<QRect> rectangles(QListWidget *list)
+{
+    QVector<QRect> rectangles;
+    for (int row = 0; row < list->count(); ++row)
+        rectangles += list->visualItemRect(list->item(row));
+    return rectangles;
+}
+
+using Change = std::function<void(QListWidget *)>;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Change)
+
+class ItemListWidgetTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { m_log = std::make_unique<LogWatch>(); }
+    void cleanupTestCase() { m_log.reset(); }
+    void cleanup() { QCOMPARE(m_log->takeUnexpected().join(QLatin1Char('\n')), QString()); }
+
+    void rowsLieAsInAPlainList_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::newRow("filled") << Change([](QListWidget *) {});
+        QTest::newRow("row grows") << Change(
+            [](QListWidget *list) { list->item(3)->setText(QStringLiteral("one\ntwo\nthree")); });
+        QTest::newRow("row shrinks") << Change(
+            [](QListWidget *list) { list->item(400)->setText(QStringLiteral("x")); });
+        QTest::newRow("widest rows shrink") << Change([](QListWidget *list) {
+            for (int row = 0; row < list->count(); ++row)
+                list->item(row)->setText(QStringLiteral("x"));
+        });
+        QTest::newRow("row gets an icon") << Change([](QListWidget *list) {
+            list->item(1)->setIcon(QApplication::style()->standardIcon(QStyle::SP_ComputerIcon));
+        });
+        QTest::newRow("inserted") << Change([](QListWidget *list) { list->insertItem(2, makeItem(70)); });
+        QTest::newRow("deleted") << Change([](QListWidget *list) { delete list->takeItem(7); });
+        QTest::newRow("moved") << Change([](QListWidget *list) { list->insertItem(450, list->takeItem(7)); });
+        QTest::newRow("sorted") << Change([](QListWidget *list) { list->sortItems(Qt::DescendingOrder); });
+        QTest::newRow("filled again") << Change([](QListWidget *list) {
+            list->clear();
+            for (int i = 500; i < 900; ++i)
+                list->addItem(makeItem(i));
+        });
+        QTest::newRow("other icon size") << Change([](QListWidget *list) { list->setIconSize({40, 40}); });
+        QTest::newRow("other font") << Change([](QListWidget *list) {
+            QFont font = list->font();
+            font.setPointSize(font.pointSize() + 6);
+            list->setFont(font);
+        });
+        QTest::newRow("last row current")
+            << Change([](QListWidget *list) { list->setCurrentRow(list->count() - 1); });
+        QTest::newRow("wider") << Change([](QListWidget *list) { list->resize(900, 400); });
+    }
+
+    void rowsLieAsInAPlainList()
+    {
+        QFETCH(Change, change);
+        // Before the list knows its rows, and after.
+        for (bool measured : {false, true}) {
+            QListWidget plain;
+            ItemListWidget list;
+            fill(&plain, 500);
+            fill(&list, 500);
+            if (measured)
+                QTRY_COMPARE(rectangles(&list), rectangles(&plain));
+            change(&plain);
+            change(&list);
+            QTRY_COMPARE(rectangles(&list), rectangles(&plain));
+            QTRY_COMPARE(list.verticalScrollBar()->maximum(), plain.verticalScrollBar()->maximum());
+            QTRY_COMPARE(list.horizontalScrollBar()->maximum(), plain.horizontalScrollBar()->maximum());
+            QCOMPARE(list.verticalScrollBar()->value(), plain.verticalScrollBar()->value());
+        }
+    }
+
+    void visibleRowsHaveTheirSizeFromTheStart()
+    {
+        constexpr int count = 5000;
+        ItemListWidget list;
+        QListWidget plain;
+        fill(&list, count);
+        fill(&plain, count);
+        for (int row : {0, count - 1, count / 2}) {
+            for (QListWidget *each : {static_cast<QListWidget *>(&list), &plain}) {
+                each->setCurrentRow(row);
+                each->grab();
+            }
+            QCOMPARE(list.visualItemRect(list.item(row)), plain.visualItemRect(plain.item(row)));
+        }
+    }
+
+    void onlyWhatChangesIsMeasured_data()
+    {
+        QTest::addColumn<Change>("change");
+        QTest::newRow("nothing") << Change([](QListWidget *) {});
+        QTest::newRow("edit") << Change(
+            [](QListWidget *list) { list->item(3)->setText(QStringLiteral("one\ntwo\nthree")); });
+        QTest::newRow("insert") << Change([](QListWidget *list) { list->insertItem(2, makeItem(1)); });
+        QTest::newRow("delete") << Change([](QListWidget *list) { delete list->takeItem(2); });
+        QTest::newRow("move") << Change([](QListWidget *list) { list->insertItem(4, list->takeItem(5)); });
+    }
+
+    void onlyWhatChangesIsMeasured()
+    {
+        QFETCH(Change, change);
+        constexpr int count = 2000;
+        CountingStyle style;
+        ItemListWidget list;
+        list.setStyle(&style);
+        fill(&list, count);
+        list.grab();
+        QVERIFY2(style.count < count / 4, "a list shows its first rows without measuring all");
+        QListWidget plain;
+        fill(&plain, count);
+        QTRY_COMPARE(rectangles(&list), rectangles(&plain));
+
+        style.count = 0;
+        change(&list);
+        list.grab();
+        QVERIFY2(style.count < 100, qPrintable(QString::number(style.count)));
+    }
+
+private:
+    std::unique_ptr<LogWatch> m_log;
+};
+
+QTEST_MAIN(ItemListWidgetTest)
+#include "tst_itemlistwidget.moc"
