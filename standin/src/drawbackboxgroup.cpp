@@ -301,14 +301,15 @@ void DrawbackBoxGroup::childEvent(QChildEvent *event)
     QWidget::childEvent(event);
     if (!event->removed())
         return;
-    // What is being deleted is only a pointer by now; what moves to another parent is still a box.
-    auto *box = static_cast<DrawbackBox *>(event->child());
-    const int index = m_boxes.indexOf(box);
-    if (index >= 0)
-        drop(index, qobject_cast<DrawbackBox *>(event->child()));
-    const auto ofBox = [box](const RemovedPage &removed) { return removed.box == box; };
+    // What is being deleted is no box any more; what moves to another parent still is one.
+    const QObject *child = event->child();
+    const auto isChild = [child](const QObject *box) { return box == child; };
+    const auto it = std::find_if(m_boxes.cbegin(), m_boxes.cend(), isChild);
+    if (it != m_boxes.cend())
+        drop(int(it - m_boxes.cbegin()), qobject_cast<DrawbackBox *>(event->child()));
+    const auto isOfChild = [child](const RemovedPage &removed) { return removed.box == child; };
     m_removedPages.erase(
-        std::remove_if(m_removedPages.begin(), m_removedPages.end(), ofBox), m_removedPages.end());
+        std::remove_if(m_removedPages.begin(), m_removedPages.end(), isOfChild), m_removedPages.end());
 }
 
 void DrawbackBoxGroup::paintEvent(QPaintEvent *)

@@ -247,7 +247,8 @@ void DrawbackBoxGroups::whatOthersDeleteLeavesTheGroup()
     delete m_group->widget(1);
     QCOMPARE(titles(*m_group), QStringLiteral("a"));
     QCOMPARE(m_group->currentIndex(), 0);
-    m_group->widget(0)->setParent(nullptr);
+    const std::unique_ptr<QWidget> moved(m_group->widget(0));
+    moved->setParent(nullptr);
     QCOMPARE(m_group->count(), 0);
     QCOMPARE(m_group->currentIndex(), -1);
 }
