@@ -1,0 +1,41 @@
+# What `cmake --install` puts where, and that none of it knows the folders in which it was built.
+cmake_minimum_required(VERSION 3.25)
+
+file(REMOVE_RECURSE "${SCRATCH}")
+set(ENV{DESTDIR} "${SCRATCH}")
+execute_process(COMMAND ${CMAKE_COMMAND} --install "${BUILD}" OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+unset(ENV{DESTDIR})
+
+execute_process(COMMAND ${QMAKE} -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE plugins OUTPUT_STRIP_TRAILING_WHITESPACE)
+foreach(file
+        "${plugins}/designer/libSorrelPlugin.so"
+        "${PREFIX}/${LIBDIR}/libSorrel.so"
+        "${PREFIX}/${LIBDIR}/cmake/Sorrel/SorrelConfig.cmake"
+        "${PREFIX}/${LIBDIR}/cmake/SorrelPlugin/SorrelPluginConfig.cmake"
+        "${PREFIX}/include/nui/Sorrel/SrComboBox.h"
+        "${PREFIX}/include/nui/Sorrel/template/SrOptionRadios.h")
+    if(NOT EXISTS "${SCRATCH}${file}")
+        message(SEND_ERROR "not installed: ${file}")
+    endif()
+endforeach()
+
+file(GLOB_RECURSE installed LIST_DIRECTORIES FALSE "${SCRATCH}/*")
+foreach(file IN LISTS installed)
+    # Debug information names the sources; it is stripped from what is packaged.
+    execute_process(COMMAND objcopy --strip-debug "${file}" "${SCRATCH}.stripped" ERROR_QUIET RESULT_VARIABLE failed)
+    if(failed)
+        file(COPY_FILE "${file}" "${SCRATCH}.stripped")
+    endif()
+    file(STRINGS "${SCRATCH}.stripped" lines REGEX "${SOURCE}")
+    if(lines)
+        message(SEND_ERROR "${file} names a folder of the build: ${lines}")
+    endif()
+endforeach()
+file(REMOVE "${SCRATCH}.stripped")
+
+# The installed plugin finds the installed library, without the build folder's help.
+execute_process(COMMAND readelf -d "${SCRATCH}${plugins}/designer/libSorrelPlugin.so" OUTPUT_VARIABLE dynamic
+    COMMAND_ERROR_IS_FATAL ANY)
+if(NOT dynamic MATCHES "RUNPATH[^\n]*${PREFIX}/${LIBDIR}")
+    message(SEND_ERROR "the installed plugin does not look in ${PREFIX}/${LIBDIR}:\n${dynamic}")
+endif()
