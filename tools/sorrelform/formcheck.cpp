@@ -1,0 +1,116 @@
+#include "formcheck.h"
+
+#include "designerhost.h"
+#include "formfacts.h"
+#include "warningcollector.h"
+
+#include <QtDesigner/QDesignerDynamicPropertySheetExtension>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QDesignerWidgetDataBaseInterface>
+#include <QtDesigner/QExtensionManager>
+
+#include <private/formwindowbase_p.h>
+
+#include <QtWidgets/QWidget>
+
+using qdesigner_internal::FormWindowBase;
+
+namespace {
+
+QString inWidget(const QString &what, const QString &widget)
+{
+    return QStringLiteral("%1, in widget \"%2\"").arg(what, widget);
+}
+
+/// What is in \a before and no more in \a after.
+void findLosses(const FormFacts &before, const FormFacts &after, QVector<Finding> *findings)
+{
+    for (auto it = before.widgets.cbegin(); it != before.widgets.cend(); ++it) {
+        const auto kept = after.widgets.constFind(it.key());
+        if (kept == after.widgets.cend()) {
+            *findings += {"lost", QStringLiteral("saving loses the widget \"%1\"").arg(it.key())};
+            continue;
+        }
+        if (kept->className != it->className) {
+            *findings += {"lost",
+                inWidget(
+                    QStringLiteral("saving turns %1 into %2").arg(it->className, kept->className), it.key())};
+        }
+        const QStringList properties = it->properties + it->dynamicProperties;
+        for (const QString &property : properties) {
+            if (!kept->properties.contains(property) && !kept->dynamicProperties.contains(property))
+                *findings += {
+                    "lost", inWidget(QStringLiteral("saving loses the property %1").arg(property), it.key())};
+        }
+    }
+    for (const QString &name : before.repeatedNames)
+        *findings += {"repeated-name", QStringLiteral("more than one widget has the name \"%1\"").arg(name)};
+}
+
+} // namespace
+
+FormChecker::FormChecker(DesignerHost *host)
+    : m_host(host)
+{
+    const QDesignerWidgetDataBaseInterface *dataBase = host->core()->widgetDataBase();
+    for (int i = 0; i < dataBase->count(); ++i)
+        m_knownClasses += dataBase->item(i)->name();
+}
+
+FormReport FormChecker::check(const QString &text, const QString &fileName)
+{
+    FormReport report;
+    const FormFacts facts = FormFacts::of(text);
+    WarningCollector collector;
+
+    FormWindowBase *form = m_host->openForm(text, fileName, &report.error);
+    if (!form) {
+        report.findings += {"error", report.error};
+        return report;
+    }
+    report.opened = true;
+
+    QExtensionManager *extensions = m_host->core()->extensionManager();
+    for (auto it = facts.widgets.cbegin(); it != facts.widgets.cend(); ++it) {
+        // A class that the form declares is promoted from one that Designer knows; ours are no such classes.
+        const bool promoted = facts.declaredClasses.contains(it->className)
+            && !it->className.startsWith(QLatin1String("Vexa::"));
+        if (!m_knownClasses.contains(it->className)) {
+            if (!promoted)
+                report.findings += {"unknown-class",
+                    inWidget(QStringLiteral("unknown class %1").arg(it->className), it.key())};
+            continue;
+        }
+        QWidget *main = form->mainContainer();
+        QWidget *widget = main->objectName() == it.key() ? main : main->findChild<QWidget *>(it.key());
+        if (!widget)
+            continue;
+        const auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(extensions, widget);
+        const auto *dynamic = qt_extension<QDesignerDynamicPropertySheetExtension *>(extensions, widget);
+        for (const QString &property : it->properties) {
+            const int index = sheet ? sheet->indexOf(property) : -1;
+            if (index < 0 || (dynamic && dynamic->isDynamicProperty(index))) {
+                report.findings += {"unknown-property",
+                    inWidget(
+                        QStringLiteral("unknown property %1 of %2").arg(property, it->className), it.key())};
+            }
+        }
+    }
+
+    report.saved = DesignerHost::save(form);
+    report.normalized = report.saved == text;
+    m_host->closeForm(form);
+    findLosses(facts, FormFacts::of(report.saved), &report.findings);
+
+    form = m_host->openForm(report.saved, fileName);
+    if (!form || DesignerHost::save(form) != report.saved)
+        report.findings += {"unstable", QStringLiteral("saving it a second time writes something else")};
+    if (form)
+        m_host->closeForm(form);
+
+    const QStringList warnings = collector.takeWarnings();
+    for (const QString &warning : warnings)
+        report.findings += {"warning", warning};
+    return report;
+}

@@ -1,0 +1,36 @@
+#include "warningcollector.h"
+
+#include <QtCore/QString>
+
+#include <utility>
+
+namespace {
+
+QStringList collected;
+QtMessageHandler previous = nullptr;
+
+void collect(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    // The platform plugin without a display says this of every window.
+    const bool noise = message.contains(QLatin1String("does not support propagateSizeHints"));
+    if (type == QtFatalMsg)
+        previous(type, context, message);
+    else if (type != QtDebugMsg && type != QtInfoMsg && !noise)
+        collected += message.trimmed();
+}
+
+} // namespace
+
+WarningCollector::WarningCollector()
+    : m_previous(qInstallMessageHandler(collect))
+{
+    previous = m_previous;
+}
+
+WarningCollector::~WarningCollector() { qInstallMessageHandler(m_previous); }
+
+QStringList WarningCollector::takeWarnings()
+{
+    collected.removeDuplicates();
+    return std::exchange(collected, {});
+}
