@@ -5,6 +5,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtCore/QHash>
+#include <QtCore/QTimer>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLayout>
 
@@ -51,6 +52,7 @@ void ButtonGrid::setContents(const Contents &contents)
     // changed.
     m_iconsStale = m_iconsStale || contents == m_contents;
     m_contents = contents;
+    m_iconsAwaited = false;
     schedule();
 }
 
@@ -128,6 +130,7 @@ void ButtonGrid::updateButtons()
     };
     // The same few icons usually stand on many buttons.
     QHash<QString, QIcon> icons;
+    bool iconMissing = false;
     qint64 index = 0;
     for (int row = 0; row < m_rows; ++row) {
         index = qint64(row) * m_contents.columns;
@@ -152,9 +155,18 @@ void ButtonGrid::updateButtons()
             countChange();
             button->setIcon(*icon);
             m_iconPaths[i] = path;
+            iconMissing = iconMissing || (icon->isNull() && !path.isEmpty());
         }
     }
     m_iconsStale = false;
+    // The resources of a form may arrive after its controls, so a missing icon is looked for once more.
+    if (iconMissing && !m_iconsAwaited) {
+        m_iconsAwaited = true;
+        QTimer::singleShot(0, this, [this] {
+            m_iconsStale = true;
+            schedule();
+        });
+    }
     updateChecks();
     measure();
 }

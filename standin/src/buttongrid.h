@@ -82,6 +82,7 @@ private:
     std::optional<int> m_checkedIndex; ///< nothing for a grid that is not one choice
     bool m_stale = false;
     bool m_iconsStale = false;
+    bool m_iconsAwaited = false; ///< missing icons were looked for again
 };
 
 } // namespace Vexa

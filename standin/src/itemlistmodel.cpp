@@ -46,8 +46,9 @@ QVariant ItemListModel::data(const QModelIndex &index, int role) const
     const QString path = m_lists.icons.value(row);
     if (path.isEmpty())
         return {};
-    auto icon = m_icons.constFind(path);
-    if (icon == m_icons.constEnd())
+    // A missing icon is not remembered: the resources of a form may arrive after its controls.
+    auto icon = m_icons.find(path);
+    if (icon == m_icons.end() || icon->isNull())
         icon = m_icons.insert(path, iconFromPath(path));
     return icon->isNull() ? QVariant() : QVariant(*icon);
 }

@@ -32,6 +32,7 @@ private slots:
     void gridReportsWhatWasSetAndMakesAtMost99By99();
     void gridKeepsItsButtonsAndChecksOverChanges();
     void sameTextListReadsTheIconsAgain();
+    void iconThatArrivesAfterTheControlIsShown();
     void clickedGridButtonTriggersItsAction();
 };
 
@@ -134,6 +135,19 @@ void GridControls::sameTextListReadsTheIconsAgain()
     QVERIFY(grid.button(1)->icon().isNull());
     grid.setIconList({});
     QVERIFY(grid.button(0)->icon().isNull());
+}
+
+void GridControls::iconThatArrivesAfterTheControlIsShown()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("late.png"));
+    MatrixPushButtons grid;
+    grid.setIconList({path});
+    QVERIFY(grid.button(0)->icon().isNull());
+    QImage image(8, 8, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QVERIFY(image.save(path));
+    QTRY_VERIFY(!grid.button(0)->icon().isNull());
 }
 
 void GridControls::clickedGridButtonTriggersItsAction()
