@@ -5,6 +5,9 @@
 
 #include <QtCore/QPointer>
 
+/// The slot of option and matrix controls that lays out their buttons; the controls spell it so.
+inline constexpr char layOutSlot[] = "updateGeomtries";
+
 /// The undo step of a contents edit: writes the new contents into the control on redo and the old ones on
 /// undo, and then invokes a slot of the control by name, if one is given. Once the control is gone it does
 /// nothing.

@@ -6,13 +6,6 @@
 
 #include <algorithm>
 
-namespace {
-
-// The controls' slot is spelled so.
-constexpr auto layOutSlot = "updateGeomtries";
-
-} // namespace
-
 ChangeComboBoxCommand::ChangeComboBoxCommand(QDesignerFormWindowInterface *formWindow)
     : ChangeContentsCommand(QString(), formWindow)
 {

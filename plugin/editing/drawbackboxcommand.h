@@ -1,0 +1,32 @@
+#pragma once
+
+#include "changecontentscommand.h"
+#include "drawbackboxcontents.h"
+
+#include <sorrel/SrDrawbackBoxGroup.h>
+
+/// Puts boxes into a group and titles on their pages. Boxes that are in only one of the two contents are out
+/// of the group the other half of the time; the command holds them then, see DrawbackBoxHold.
+class ChangeDrawbackBoxCommand final
+    : public ChangeContentsCommand<Vexa::DrawbackBoxGroup, DrawbackBoxContents> {
+public:
+    explicit ChangeDrawbackBoxCommand(QDesignerFormWindowInterface *formWindow);
+
+    void init(Vexa::DrawbackBoxGroup *group, const DrawbackBoxContents &oldContents,
+        const DrawbackBoxContents &newContents, const QVector<int> &initialIds,
+        const QVector<int> &currentIds);
+
+    /// The ids of the boxes in the editor before and after the edit.
+    QVector<int> initialIds() const { return m_initialIds; }
+    QVector<int> currentIds() const { return m_currentIds; }
+
+private:
+    void write(const DrawbackBoxContents &contents, Vexa::DrawbackBoxGroup *group) override;
+    void replaceBoxes(const QVector<DrawbackBoxHold> &boxes, Vexa::DrawbackBoxGroup *group);
+    void markTitle(QWidget *page) const;
+
+    QVector<int> m_initialIds;
+    QVector<int> m_currentIds;
+    // Every box that this command has taken out, also one that came into the group past the undo stack.
+    QVector<DrawbackBoxHold> m_displaced;
+};

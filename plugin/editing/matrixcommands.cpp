@@ -1,0 +1,25 @@
+#include "matrixcommands.h"
+
+#include <QtCore/QCoreApplication>
+
+ChangeMatrixBtnsCommand::ChangeMatrixBtnsCommand(QDesignerFormWindowInterface *formWindow)
+    : ChangeContentsCommand(
+        QCoreApplication::translate("Command", "Change MatrixButtons Contents"), formWindow, layOutSlot)
+{
+}
+
+void ChangeMatrixBtnsCommand::write(const MatrixContents &contents, Vexa::AbstractMatrixOptions *matrix)
+{
+    contents.applyToMatrixButtons(matrix);
+}
+
+ChangeMatrixPopBtnsCommand::ChangeMatrixPopBtnsCommand(QDesignerFormWindowInterface *formWindow)
+    : ChangeContentsCommand(
+        QCoreApplication::translate("Command", "Change MatrixPopButtons Contents"), formWindow, layOutSlot)
+{
+}
+
+void ChangeMatrixPopBtnsCommand::write(const MatrixContents &contents, Vexa::MatrixPopButtons *matrix)
+{
+    contents.applyToMatrixPopButtons(matrix);
+}

@@ -1,0 +1,218 @@
+#include "matrixcontents.h"
+
+#include <sorrel/SrMatrixButtons.h>
+#include <sorrel/SrMatrixPopButtons.h>
+
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QTableWidget>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace {
+
+/// Of foreign grids nothing is read or written at higher flat indices: a list as long as a cell far out asks
+/// for would exhaust the memory.
+constexpr quint64 maximumIndex = 0xfffff;
+
+/// One of the parallel string lists of a control and the role of its strings.
+template <class Matrix>
+struct ListField {
+    int role;
+    QStringList (*read)(Matrix *);
+    void (*write)(Matrix *, const QStringList &);
+};
+
+constexpr std::size_t fieldCount = 4;
+
+// In the order in which they are written.
+template <class Matrix>
+constexpr ListField<Matrix> fields[fieldCount] = {{ItemRole::Text, [](auto *m) { return m->textList(); },
+                                                      [](auto *m, auto &list) { m->setTextList(list); }},
+    {ItemRole::Icon, [](auto *m) { return m->iconList(); },
+        [](auto *m, auto &list) { m->setIconList(list); }},
+    {ItemRole::ToolTip, [](auto *m) { return m->toolTips(); },
+        [](auto *m, auto &list) { m->setToolTips(list); }},
+    {ItemRole::Action, [](auto *m) { return m->actionList(); },
+        [](auto *m, auto &list) { m->setActionList(list); }}};
+
+using Lists = std::array<QStringList, fieldCount>;
+
+template <class Matrix>
+ItemData cellData(const Lists &lists, quint64 index)
+{
+    ItemData data;
+    for (std::size_t i = 0; i < fieldCount; ++i) {
+        if (index >= quint64(lists[i].size()))
+            continue;
+        const QString &string = lists[i].at(int(index));
+        if (fields<Matrix>[i].role == ItemRole::Icon)
+            data.setIconPath(string);
+        else
+            data.setText(fields<Matrix>[i].role, string);
+    }
+    return data;
+}
+
+/// \a hasCell(flat index) says which of the cells that can be shown get an entry.
+template <class Matrix, class HasCell>
+MatrixContents readMatrix(Matrix *matrix, HasCell hasCell)
+{
+    MatrixContents contents;
+    if (!matrix)
+        return contents;
+    const quint32 rows = matrix->row();
+    const quint32 columns = matrix->column();
+    contents.rowCount = int(rows);
+    contents.columnCount = int(columns);
+    Lists lists;
+    quint64 longest = 0;
+    for (std::size_t i = 0; i < fieldCount; ++i) {
+        lists[i] = fields<Matrix>[i].read(matrix);
+        longest = std::max(longest, quint64(lists[i].size()));
+    }
+
+    const quint32 shown = MatrixContents::maximumCount;
+    for (quint32 row = 0; row < std::min(rows, shown); ++row) {
+        for (quint32 column = 0; column < std::min(columns, shown); ++column) {
+            const quint64 index = quint64(row) * columns + column;
+            if (hasCell(index))
+                contents.items.insert(
+                    contents.items.cend(), {int(row), int(column)}, cellData<Matrix>(lists, index));
+        }
+    }
+
+    const quint64 end = std::min({longest, quint64(rows) * columns, maximumIndex + 1});
+    for (quint64 index = 0; (rows > shown || columns > shown) && index < end; ++index) {
+        const quint64 row = index / columns;
+        const quint64 column = index % columns;
+        if (row < shown && column < shown)
+            continue;
+        const ItemData data = cellData<Matrix>(lists, index);
+        if (!data.isEmpty())
+            contents.items.insert({int(row), int(column)}, data);
+    }
+    return contents;
+}
+
+template <class Matrix>
+void clearLists(Matrix *matrix)
+{
+    for (const auto &field : fields<Matrix>)
+        field.write(matrix, {});
+}
+
+template <class Matrix>
+void writeLists(const MatrixContents &contents, Matrix *matrix)
+{
+    const quint32 rows = quint32(contents.rowCount);
+    const quint32 columns = quint32(contents.columnCount);
+    QStringList empty;
+    empty.reserve(contents.items.size());
+    for (int i = 0; i < contents.items.size(); ++i)
+        empty.append(QString());
+
+    for (const auto &field : fields<Matrix>) {
+        QStringList list = empty;
+        for (auto it = contents.items.cbegin(); it != contents.items.cend(); ++it) {
+            // A negative coordinate is above every count of a grid of less than 2^31 rows or columns.
+            const quint32 row = quint32(it.key().first);
+            const quint32 column = quint32(it.key().second);
+            const quint64 index = quint64(row) * columns + column;
+            if (row >= rows || column >= columns || index > maximumIndex)
+                continue;
+            const QString string
+                = field.role == ItemRole::Icon ? it.value().iconPath() : it.value().text(field.role);
+            if (string.isEmpty())
+                continue;
+            // Cells without an entry make the list shorter than the grid.
+            while (quint64(list.size()) <= index)
+                list.append(QString());
+            list[int(index)] = string;
+        }
+        field.write(matrix, list);
+    }
+}
+
+} // namespace
+
+MatrixContents MatrixContents::fromTableWidget(const QTableWidget *table, bool editor)
+{
+    MatrixContents contents;
+    contents.rowCount = table->rowCount();
+    contents.columnCount = table->columnCount();
+    for (int row = 0; row < contents.rowCount; ++row) {
+        for (int column = 0; column < contents.columnCount; ++column) {
+            const QTableWidgetItem *item = table->item(row, column);
+            contents.items.insert(
+                contents.items.cend(), {row, column}, item ? ItemData(item, editor) : ItemData());
+        }
+    }
+    return contents;
+}
+
+MatrixContents MatrixContents::fromMatrixButtons(Vexa::AbstractMatrixOptions *matrix)
+{
+    return readMatrix(matrix, [matrix](quint64 index) {
+        return index <= quint64(std::numeric_limits<int>::max()) && matrix->button(int(index));
+    });
+}
+
+MatrixContents MatrixContents::fromMatrixPopButtons(Vexa::MatrixPopButtons *matrix)
+{
+    return readMatrix(matrix, [](quint64) { return true; });
+}
+
+void MatrixContents::applyToTableWidget(
+    QTableWidget *table, qdesigner_internal::DesignerIconCache *iconCache, bool editor) const
+{
+    const auto shown = [](int count) { return int(std::min(quint32(count), quint32(maximumCount))); };
+    const int columns = shown(columnCount);
+    const int rows = shown(rowCount);
+    table->clear();
+    table->setColumnCount(columns);
+    table->setRowCount(rows);
+    {
+        // The view would look at every cell on its own.
+        const QSignalBlocker blocker(table->model());
+        for (auto it = items.cbegin(); it != items.cend(); ++it) {
+            const auto [row, column] = it.key();
+            if (row < 0 || row >= rows || column < 0 || column >= columns)
+                continue;
+            auto item = new QTableWidgetItem; // belongs to the table
+            it.value().fill(item, iconCache, editor);
+            table->setItem(row, column, item);
+        }
+    }
+    table->viewport()->update();
+}
+
+void MatrixContents::applyToMatrixButtons(Vexa::AbstractMatrixOptions *matrix) const
+{
+    if (!matrix)
+        return;
+    clearLists(matrix);
+    writeLists(*this, matrix);
+}
+
+void MatrixContents::applyToMatrixPopButtons(Vexa::MatrixPopButtons *matrix) const
+{
+    if (!matrix)
+        return;
+    clearLists(matrix);
+    matrix->setColumn(quint32(columnCount));
+    matrix->setRow(quint32(rowCount));
+    writeLists(*this, matrix);
+}
+
+void MatrixContents::shareEqualCells(const MatrixContents &original)
+{
+    auto known = original.items.cbegin();
+    for (auto it = items.begin(); it != items.end(); ++it) {
+        while (known != original.items.cend() && known.key() < it.key())
+            ++known;
+        if (known != original.items.cend() && known.key() == it.key() && known.value() == it.value())
+            it.value() = known.value();
+    }
+}

@@ -1,0 +1,200 @@
+#include "matrixeditors.h"
+#include "ui_matrixpushbuttonseditor.h"
+
+#include "propertyeditor/designerpropertymanager.h"
+
+#include <sorrel/SrMatrixButtons.h>
+#include <sorrel/SrMatrixPopButtons.h>
+
+#include <private/qdesigner_utils_p.h>
+
+#include <QtCore/QScopedValueRollback>
+
+using qdesigner_internal::DesignerPropertyManager;
+using qdesigner_internal::PropertySheetStringValue;
+
+namespace {
+
+constexpr auto string = DesignerPropertyManager::designerStringTypeId;
+constexpr auto icon = DesignerPropertyManager::designerIconTypeId;
+
+constexpr MatrixEditor::PropertyDefinition matrixButtonPropList[]
+    = {{ItemRole::Text, 0, string, "text"}, {ItemRole::Icon, 0, icon, "icon"},
+        {ItemRole::ToolTip, 0, string, "toolTip"}, {ItemRole::Action, 0, string, "action"}, {}};
+
+} // namespace
+
+MatrixEditor::MatrixEditor(QDesignerFormWindowInterface *form, QDialog *dialog)
+    : AbstractItemEditor(form, dialog)
+    , m_ui(new Ui::MatrixPushButtonsEditor)
+{
+    m_ui->setupUi(dialog);
+    injectPropertyBrowser(m_ui->tab, m_ui->widget);
+    connect(m_ui->showPropertiesButton, SIGNAL(clicked()), this, SLOT(togglePropertyBrowser()));
+    m_ui->tableWidget->setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(m_ui->tableWidget, SIGNAL(currentCellChanged(int, int, int, int)), this,
+        SLOT(on_tableWidget_currentCellChanged(int, int, int, int)));
+    connect(m_ui->tableWidget, SIGNAL(itemChanged(QTableWidgetItem *)), this,
+        SLOT(on_tableWidget_itemChanged(QTableWidgetItem *)));
+    connect(m_ui->rowCounts, SIGNAL(valueChanged(int)), this, SLOT(on_rowCountsChanged(int)));
+    connect(m_ui->colCounts, SIGNAL(valueChanged(int)), this, SLOT(on_colCountsChanged(int)));
+}
+
+MatrixEditor::~MatrixEditor() = default;
+
+MatrixContents MatrixEditor::load(const MatrixContents &contents, QWidget *matrix)
+{
+    m_loaded = contents;
+    contents.applyToTableWidget(m_ui->tableWidget, iconCache(), true);
+    m_ui->rowCounts->setValue(m_ui->tableWidget->rowCount());
+    m_ui->colCounts->setValue(m_ui->tableWidget->columnCount());
+    setupEditor(matrix, matrixButtonPropList);
+    if (m_ui->tableWidget->columnCount() > 0 && m_ui->tableWidget->rowCount() > 0)
+        m_ui->tableWidget->setCurrentCell(0, 0);
+    updateEditor();
+    return contents;
+}
+
+MatrixContents MatrixEditor::contents() const
+{
+    MatrixContents contents = MatrixContents::fromTableWidget(m_ui->tableWidget, true);
+    contents.shareEqualCells(m_loaded);
+    return contents;
+}
+
+void MatrixEditor::updateEditor()
+{
+    // The form has no such tab, so the first cell becomes current whenever there is one. The number is meant.
+    constexpr int tab = 2;
+    const bool wasEnabled = m_ui->tabWidget->isTabEnabled(tab);
+    const bool enabled = m_ui->tableWidget->columnCount() > 0 && m_ui->tableWidget->rowCount() > 0;
+    m_ui->tabWidget->setTabEnabled(tab, enabled);
+    if (!wasEnabled && enabled)
+        m_ui->tableWidget->setCurrentCell(0, 0);
+    QMetaObject::invokeMethod(m_ui->tableWidget, "updateGeometries");
+    m_ui->tableWidget->viewport()->update();
+}
+
+void MatrixEditor::on_rowCountsChanged(int rowCounts)
+{
+    const int column = m_ui->tableWidget->currentColumn();
+    m_ui->tableWidget->setRowCount(rowCounts);
+    updateEditor();
+    // One step back on purpose: from the first column no cell stays current.
+    m_ui->tableWidget->setCurrentCell(rowCounts - 1, column - 1);
+}
+
+void MatrixEditor::on_colCountsChanged(int colCounts)
+{
+    const int row = m_ui->tableWidget->currentRow();
+    m_ui->tableWidget->setColumnCount(colCounts);
+    updateEditor();
+    m_ui->tableWidget->setCurrentCell(row - 1, colCounts - 1); // as for the rows
+}
+
+void MatrixEditor::on_tableWidget_currentCellChanged(int, int, int, int)
+{
+    // Without a cell the pane would take input and lose it.
+    if (m_ui->tableWidget->currentIndex().isValid())
+        updateBrowser();
+    else
+        clearBrowser();
+}
+
+void MatrixEditor::on_tableWidget_itemChanged(QTableWidgetItem *item)
+{
+    if (m_updatingBrowser)
+        return;
+    auto text = item->data(ItemRole::Text).value<PropertySheetStringValue>();
+    text.setValue(item->text());
+    const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
+    item->setData(ItemRole::Text, QVariant::fromValue(text));
+    updateBrowser();
+}
+
+void MatrixEditor::setItemData(int role, const QVariant &value)
+{
+    const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
+    QTableWidget *table = m_ui->tableWidget;
+    if (!table->currentIndex().isValid())
+        return;
+    if (!table->currentItem())
+        table->setItem(table->currentRow(), table->currentColumn(), new QTableWidgetItem);
+    table->currentItem()->setData(role, value);
+}
+
+QVariant MatrixEditor::getItemData(int role) const
+{
+    const QTableWidgetItem *item = m_ui->tableWidget->currentItem();
+    return item ? item->data(role) : QVariant();
+}
+
+int MatrixEditor::defaultItemFlags() const
+{
+    static const int flags = QTableWidgetItem().flags();
+    return flags;
+}
+
+void MatrixEditor::cacheReloaded()
+{
+    AbstractItemEditor::cacheReloaded();
+    const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
+    qdesigner_internal::reloadIconResources(iconCache(), m_ui->tableWidget);
+}
+
+void MatrixEditor::setPropertyBrowserVisible(bool visible)
+{
+    AbstractItemEditor::setPropertyBrowserVisible(visible, m_ui->showPropertiesButton);
+}
+
+void MatrixEditor::togglePropertyBrowser() { setPropertyBrowserVisible(!isPropertyBrowserVisible()); }
+
+MatrixButtonsEditor::MatrixButtonsEditor(QDesignerFormWindowInterface *form, QDialog *dialog)
+    : MatrixEditor(form, dialog)
+{
+    setPropertyBrowserVisible(false); // here, where the translation context of the text is this class
+}
+
+MatrixContents MatrixButtonsEditor::fillContentsFromMatrixButtons(Vexa::AbstractMatrixOptions *matrix)
+{
+    return load(MatrixContents::fromMatrixButtons(matrix), matrix);
+}
+
+MatrixPopButtonsEditor::MatrixPopButtonsEditor(QDesignerFormWindowInterface *form, QDialog *dialog)
+    : MatrixEditor(form, dialog)
+{
+    setPropertyBrowserVisible(false); // as above
+}
+
+MatrixContents MatrixPopButtonsEditor::fillContentsFromMatrixPopButtons(Vexa::MatrixPopButtons *matrix)
+{
+    return load(MatrixContents::fromMatrixPopButtons(matrix), matrix);
+}
+
+MatrixButtonsDialog::MatrixButtonsDialog(QDesignerFormWindowInterface *form, QWidget *parent)
+    : QDialog(parent)
+    , m_editor(form, this)
+{
+}
+
+MatrixContents MatrixButtonsDialog::fillContentsFromMatrixButtons(Vexa::AbstractMatrixOptions *matrix)
+{
+    setWindowTitle(tr("Edit Matrix buttons"));
+    return m_editor.fillContentsFromMatrixButtons(matrix);
+}
+
+MatrixContents MatrixButtonsDialog::contents() const { return m_editor.contents(); }
+
+MatrixPopButtonsDialog::MatrixPopButtonsDialog(QDesignerFormWindowInterface *form, QWidget *parent)
+    : QDialog(parent)
+    , m_editor(form, this)
+{
+}
+
+MatrixContents MatrixPopButtonsDialog::fillContentsFromMatrixPopButtons(Vexa::MatrixPopButtons *matrix)
+{
+    setWindowTitle(tr("Edit Matrix PopButtons"));
+    return m_editor.fillContentsFromMatrixPopButtons(matrix);
+}
+
+MatrixContents MatrixPopButtonsDialog::contents() const { return m_editor.contents(); }

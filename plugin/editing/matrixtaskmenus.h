@@ -1,0 +1,30 @@
+#pragma once
+
+#include "contentstaskmenu.h"
+
+#include <sorrel/SrMatrixButtons.h>
+#include <sorrel/SrMatrixPopButtons.h>
+
+/// The menu of the matrices of push buttons, radio buttons and check boxes.
+class MatrixPushButtonsTaskMenu final : public ContentsTaskMenu {
+    Q_OBJECT
+public:
+    MatrixPushButtonsTaskMenu(Vexa::AbstractMatrixOptions *matrix, QObject *parent);
+
+private:
+    void editItems() override;
+};
+
+class MatrixPopButtonsTaskMenu final : public ContentsTaskMenu {
+    Q_OBJECT
+public:
+    MatrixPopButtonsTaskMenu(Vexa::MatrixPopButtons *matrix, QObject *parent);
+
+private:
+    void editItems() override;
+};
+
+using MatrixPushButtonsFactory = TaskMenuFactory<Vexa::MatrixPushButtons, MatrixPushButtonsTaskMenu>;
+using MatrixRadioButtonsFactory = TaskMenuFactory<Vexa::MatrixRadioButtons, MatrixPushButtonsTaskMenu>;
+using MatrixCheckBoxesFactory = TaskMenuFactory<Vexa::MatrixCheckBoxes, MatrixPushButtonsTaskMenu>;
+using MatrixPopButtonsFactory = TaskMenuFactory<Vexa::MatrixPopButtons, MatrixPopButtonsTaskMenu>;

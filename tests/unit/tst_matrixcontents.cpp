@@ -1,0 +1,296 @@
+#include "editing/matrixcommands.h"
+#include "editing/matrixcontents.h"
+
+#include <QtTest/QtTest>
+#include <QtWidgets/QTableWidget>
+
+#include <memory>
+
+Q_DECLARE_METATYPE(MatrixContents)
+
+namespace {
+
+constexpr unsigned int huge = 4294967295u;
+
+QStringList list(const char *strings)
+{
+    const QString joined = QLatin1String(strings);
+    return joined.isEmpty() ? QStringList() : joined.split(QLatin1Char(' '));
+}
+
+/// The cells as "row,column=text icon tip action", with "-" for what is missing.
+QString dump(const MatrixContents &contents)
+{
+    QStringList cells;
+    for (auto it = contents.items.cbegin(); it != contents.items.cend(); ++it) {
+        QStringList fields{it->text(27), it->iconPath(), it->text(29), it->text(257)};
+        fields.replaceInStrings(QRegularExpression(QStringLiteral("^$")), QStringLiteral("-"));
+        cells += QStringLiteral("%1,%2=").arg(it.key().first).arg(it.key().second)
+            + fields.join(QLatin1Char(' '));
+    }
+    return cells.join(QLatin1String("; "));
+}
+
+ItemData cell(const char *text, const char *icon = "", const char *toolTip = "", const char *action = "")
+{
+    ItemData data;
+    data.setText(27, QLatin1String(text));
+    data.setIconPath(QLatin1String(icon));
+    data.setText(29, QLatin1String(toolTip));
+    data.setText(257, QLatin1String(action));
+    return data;
+}
+
+MatrixContents grid(int rows, int columns, const QMap<MatrixContents::Cell, ItemData> &items)
+{
+    MatrixContents contents;
+    contents.rowCount = rows;
+    contents.columnCount = columns;
+    contents.items = items;
+    return contents;
+}
+
+MatrixContents full(int side, const QString &text)
+{
+    MatrixContents contents = grid(side, side, {});
+    for (int row = 0; row < side; ++row) {
+        for (int column = 0; column < side; ++column)
+            contents.items[{row, column}].setText(27, text.arg(row).arg(column));
+    }
+    return contents;
+}
+
+template <class Matrix>
+void setLists(
+    Matrix &matrix, unsigned int rows, unsigned int columns, const std::array<QStringList, 4> &lists)
+{
+    matrix.setRow(rows);
+    matrix.setColumn(columns);
+    matrix.setTextList(lists[0]);
+    matrix.setIconList(lists[1]);
+    matrix.setToolTips(lists[2]);
+    matrix.setActionList(lists[3]);
+}
+
+/// The four lists of a control, "-" for an empty one.
+template <class Matrix>
+QString dumpLists(const Matrix &matrix)
+{
+    QStringList lists;
+    for (const QStringList &list :
+        {matrix.textList(), matrix.iconList(), matrix.toolTips(), matrix.actionList()})
+        lists += list.isEmpty() ? QStringLiteral("-") : list.join(QLatin1Char(','));
+    return lists.join(QLatin1Char('|'));
+}
+
+} // namespace
+
+class tst_MatrixContents : public QObject {
+    Q_OBJECT
+
+private slots:
+    void readsRowByRow_data()
+    {
+        QTest::addColumn<unsigned int>("rows");
+        QTest::addColumn<unsigned int>("columns");
+        QTest::addColumn<QString>("texts");
+        QTest::addColumn<QString>("toolTips");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("list shorter than the grid")
+            << 2u << 3u << "a b c d"
+            << ""
+            << "0,0=a - - -; 0,1=b - - -; 0,2=c - - -; 1,0=d - - -; 1,1=- - - -; 1,2=- - - -";
+        QTest::newRow("lists of unequal length") << 1u << 3u << "a"
+                                                 << "x y z"
+                                                 << "0,0=a - x -; 0,1=- - y -; 0,2=- - z -";
+        QTest::newRow("list longer than the grid") << 1u << 1u << "a b c"
+                                                   << "x y"
+                                                   << "0,0=a - x -";
+        QTest::newRow("no rows") << 0u << 3u << "a b"
+                                 << ""
+                                 << "";
+        QTest::newRow("no columns") << 3u << 0u << "a b"
+                                    << ""
+                                    << "";
+        QTest::newRow("nothing") << 0u << 0u << "a"
+                                 << "x"
+                                 << "";
+    }
+    void readsRowByRow()
+    {
+        QFETCH(unsigned int, rows);
+        QFETCH(unsigned int, columns);
+        QFETCH(QString, texts);
+        QFETCH(QString, toolTips);
+        QFETCH(QString, expected);
+        const std::array<QStringList, 4> values{list(qPrintable(texts)), {}, list(qPrintable(toolTips)), {}};
+        Vexa::MatrixPushButtons push;
+        setLists(push, rows, columns, values);
+        Vexa::MatrixPopButtons pop;
+        setLists(pop, rows, columns, values);
+        for (const MatrixContents &contents :
+            {MatrixContents::fromMatrixButtons(&push), MatrixContents::fromMatrixPopButtons(&pop)}) {
+            QCOMPARE(contents.rowCount, int(rows));
+            QCOMPARE(contents.columnCount, int(columns));
+            QCOMPARE(dump(contents), expected);
+        }
+    }
+
+    /// Nothing hangs or grows without bound, nothing is lost by an undo of an edit, and the table stays
+    /// editable.
+    void foreignSizes_data()
+    {
+        QTest::addColumn<unsigned int>("rows");
+        QTest::addColumn<unsigned int>("columns");
+        QTest::addColumn<int>("tableRows");
+        QTest::addColumn<int>("tableColumns");
+        QTest::newRow("all there is") << huge << huge << 99 << 99;
+        QTest::newRow("rows without end") << huge << 2u << 99 << 2;
+        QTest::newRow("columns without end") << 2u << huge << 2 << 99;
+        QTest::newRow("one too many") << 1u << 100u << 1 << 99;
+        QTest::newRow("2^31 rows") << 0x80000000u << 1u << 99 << 1;
+    }
+    void foreignSizes()
+    {
+        QFETCH(unsigned int, rows);
+        QFETCH(unsigned int, columns);
+        QFETCH(int, tableRows);
+        QFETCH(int, tableColumns);
+        QStringList texts;
+        for (int i = 0; i < 300; ++i)
+            texts += QString::number(i);
+        while (quint64(texts.size()) > quint64(rows) * columns)
+            texts.removeLast();
+        Vexa::MatrixPopButtons pop;
+        setLists(pop, rows, columns, {texts, {}, {}, {}});
+        const MatrixContents contents = MatrixContents::fromMatrixPopButtons(&pop);
+        QCOMPARE(quint32(contents.rowCount), rows);
+        QCOMPARE(quint32(contents.columnCount), columns);
+        QVERIFY(contents.items.size() <= 99 * 99 + texts.size());
+
+        QTableWidget table;
+        contents.applyToTableWidget(&table, nullptr, true);
+        QCOMPARE(table.rowCount(), tableRows);
+        QCOMPARE(table.columnCount(), tableColumns);
+        QCOMPARE(table.item(0, tableColumns - 1)->text(), QString::number(tableColumns - 1));
+
+        setLists(pop, 1, 1, {});
+        contents.applyToMatrixPopButtons(&pop);
+        QCOMPARE(pop.row(), rows);
+        QCOMPARE(pop.column(), columns);
+        QVERIFY(pop.textList().size() <= 99 * 99 + texts.size());
+        QCOMPARE(pop.textList().mid(0, texts.size()), texts);
+
+        Vexa::MatrixCheckBoxes boxes;
+        setLists(boxes, rows, columns, {texts, {}, {}, {}});
+        const MatrixContents read = MatrixContents::fromMatrixButtons(&boxes);
+        QVERIFY(read.items.size() <= 99 * 99 + texts.size());
+        read.applyToMatrixButtons(&boxes);
+        QCOMPARE(boxes.textList().mid(0, texts.size()), texts);
+    }
+
+    void writesRowByRow_data()
+    {
+        QTest::addColumn<MatrixContents>("contents");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("all fields") << grid(1, 2, {{{0, 0}, cell("a", ":/i", "t", "go")}, {{0, 1}, {}}})
+                                    << "a,|:/i,|t,|go,";
+        QTest::newRow("by row") << grid(2, 2,
+            {{{1, 0}, cell("c")}, {{0, 1}, cell("b")}, {{0, 0}, cell("a")}, {{1, 1}, cell("", "", "x")}})
+                                << "a,b,c,|,,,|,,,x|,,,";
+        QTest::newRow("cell without a button in between")
+            << grid(2, 2, {{{0, 0}, cell("a")}, {{1, 0}, {}}, {{1, 1}, cell("d")}}) << "a,,,d|,,|,,|,,";
+        QTest::newRow("cells outside the grid") << grid(1, 1,
+            {{{0, 0}, cell("a")}, {{0, 1}, cell("b")}, {{1, 0}, cell("c")}, {{-1, 0}, cell("d")},
+                {{0, -1}, cell("e")}}) << "a,,,,|,,,,|,,,,|,,,,";
+        QTest::newRow("cell far out")
+            << grid(2147483647, 2147483647, {{{2147483646, 2147483646}, cell("x")}, {{0, 0}, cell("a")}})
+            << "a,|,|,|,";
+        QTest::newRow("empty") << grid(0, 0, {}) << "-|-|-|-";
+    }
+    void writesRowByRow()
+    {
+        QFETCH(MatrixContents, contents);
+        QFETCH(QString, expected);
+        const QStringList old = list("o l d");
+        Vexa::MatrixRadioButtons radio;
+        setLists(radio, 5, 6, {old, old, old, old});
+        ChangeMatrixBtnsCommand command(nullptr);
+        command.init(&radio, {}, contents);
+        QCOMPARE(radio.textList(), old);
+        command.redo();
+        QCOMPARE(dumpLists(radio), expected);
+        QCOMPARE(radio.row(), 5u);
+        QCOMPARE(radio.column(), 6u);
+        command.undo();
+        QCOMPARE(dumpLists(radio), QStringLiteral("-|-|-|-"));
+        QCOMPARE(command.text(), QStringLiteral("Change MatrixButtons Contents"));
+
+        auto pop = std::make_unique<Vexa::MatrixPopButtons>();
+        setLists(*pop, 5, 6, {old, old, old, old});
+        ChangeMatrixPopBtnsCommand popCommand(nullptr);
+        popCommand.init(pop.get(), MatrixContents::fromMatrixPopButtons(pop.get()), contents);
+        popCommand.redo();
+        QCOMPARE(dumpLists(*pop), expected);
+        QCOMPARE(int(pop->row()), contents.rowCount);
+        QCOMPARE(int(pop->column()), contents.columnCount);
+        popCommand.undo();
+        QCOMPARE(pop->row(), 5u);
+        QCOMPARE(pop->column(), 6u);
+        QCOMPARE(pop->textList().mid(0, 3), old);
+        QCOMPARE(pop->textList().size(), 30);
+        QCOMPARE(popCommand.text(), QStringLiteral("Change MatrixPopButtons Contents"));
+        pop.reset();
+        popCommand.redo();
+    }
+
+    void survivesTheTable()
+    {
+        MatrixContents contents = full(99, QStringLiteral("%1/%2"));
+        contents.items[{98, 98}] = cell("last", ":/i", "t", "go");
+        contents.items.insert({99, 0}, cell("outside"));
+        QTableWidget table(3, 4);
+        QSignalSpy changes(&table, SIGNAL(itemChanged(QTableWidgetItem *)));
+        QSignalSpy dataChanges(table.model(), SIGNAL(dataChanged(QModelIndex, QModelIndex, QVector<int>)));
+        contents.applyToTableWidget(&table, nullptr, true);
+        QCOMPARE(changes.size(), 0);
+        QVERIFY(dataChanges.size() < 99);
+        QCOMPARE(table.item(98, 98)->text(), QStringLiteral("last"));
+        QCOMPARE(table.item(98, 98)->toolTip(), QStringLiteral("t"));
+        QVERIFY(table.item(7, 8)->flags() & Qt::ItemIsEditable);
+
+        contents.items.remove({99, 0});
+        MatrixContents read = MatrixContents::fromTableWidget(&table, true);
+        QVERIFY(read == contents);
+        read.shareEqualCells(contents);
+        QVERIFY(read == contents);
+        QCOMPARE(
+            read.items.value({5, 5}).fields().constData(), contents.items.value({5, 5}).fields().constData());
+
+        delete table.takeItem(4, 4);
+        table.item(98, 98)->setText(QStringLiteral("shown only"));
+        contents.items[{4, 4}] = ItemData();
+        QVERIFY(MatrixContents::fromTableWidget(&table, true) == contents);
+    }
+
+    void equality()
+    {
+        const MatrixContents contents = full(2, QStringLiteral("%1%2"));
+        QVERIFY(contents == full(2, QStringLiteral("%1%2")));
+        QVERIFY(contents != full(2, QStringLiteral("%2%1")));
+        MatrixContents other = contents;
+        other.rowCount = 3;
+        QVERIFY(contents != other);
+        other = contents;
+        other.columnCount = 1;
+        QVERIFY(contents != other);
+        other = contents;
+        other.items.remove({1, 1});
+        QVERIFY(contents != other);
+        other.shareEqualCells(contents);
+        QCOMPARE(other.items.size(), 3);
+    }
+};
+
+QTEST_MAIN(tst_MatrixContents)
+#include "tst_matrixcontents.moc"
