@@ -20,10 +20,12 @@ QWidget *DrawbackBoxGroupPlugin::createWidget(QWidget *parent)
     return group;
 }
 
-void DrawbackBoxGroupPlugin::registerExtensions(QExtensionManager *manager, QDesignerFormEditorInterface *)
+void DrawbackBoxGroupPlugin::registerExtensions(
+    QExtensionManager *manager, QDesignerFormEditorInterface *core)
 {
     manager->registerExtensions(new DrawbackBoxGroupExtensionFactory(manager),
         QStringLiteral("org.qt-project.Qt.Designer.Container"));
+    Descriptor::registerExtensions(manager, core);
 }
 
 void DrawbackBoxGroupPlugin::currentIndexChanged(int index)

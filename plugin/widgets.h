@@ -1,7 +1,9 @@
 #pragma once
 
 #include "controlplugin.h"
+#include "editing/drawbackboxtaskmenu.h"
 #include "editing/listtaskmenus.h"
+#include "editing/matrixtaskmenus.h"
 
 #include <sorrel/SrColorButton.h>
 #include <sorrel/SrColorPanel.h>
@@ -68,8 +70,8 @@ public:
     using Descriptor::Descriptor;
 };
 
-class DrawbackBoxGroupPlugin final
-    : public Descriptor<Vexa::DrawbackBoxGroup, rowOf("Vexa::DrawbackBoxGroup")> {
+class DrawbackBoxGroupPlugin final : public Descriptor<Vexa::DrawbackBoxGroup,
+                                         rowOf("Vexa::DrawbackBoxGroup"), WithTaskMenu<DrawbackBoxFactory>> {
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
@@ -135,29 +137,33 @@ public:
     using Descriptor::Descriptor;
 };
 
-class MatrixCheckBoxesPlugin final : public Descriptor<Vexa::MatrixCheckBoxes,
-                                         rowOf("Vexa::MatrixCheckBoxes"), ResourceWatchingControlPlugin> {
+class MatrixCheckBoxesPlugin final
+    : public Descriptor<Vexa::MatrixCheckBoxes, rowOf("Vexa::MatrixCheckBoxes"),
+          WithTaskMenu<MatrixCheckBoxesFactory, ResourceWatchingControlPlugin>> {
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
 };
 
-class MatrixPopButtonsPlugin final : public Descriptor<Vexa::MatrixPopButtons,
-                                         rowOf("Vexa::MatrixPopButtons"), PropertyWatchingControlPlugin> {
+class MatrixPopButtonsPlugin final
+    : public Descriptor<Vexa::MatrixPopButtons, rowOf("Vexa::MatrixPopButtons"),
+          WithTaskMenu<MatrixPopButtonsFactory, PropertyWatchingControlPlugin>> {
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
 };
 
-class MatrixPushButtonsPlugin final : public Descriptor<Vexa::MatrixPushButtons,
-                                          rowOf("Vexa::MatrixPushButtons"), ResourceWatchingControlPlugin> {
+class MatrixPushButtonsPlugin final
+    : public Descriptor<Vexa::MatrixPushButtons, rowOf("Vexa::MatrixPushButtons"),
+          WithTaskMenu<MatrixPushButtonsFactory, ResourceWatchingControlPlugin>> {
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
 };
 
-class MatrixRadioButtonsPlugin final : public Descriptor<Vexa::MatrixRadioButtons,
-                                           rowOf("Vexa::MatrixRadioButtons"), ResourceWatchingControlPlugin> {
+class MatrixRadioButtonsPlugin final
+    : public Descriptor<Vexa::MatrixRadioButtons, rowOf("Vexa::MatrixRadioButtons"),
+          WithTaskMenu<MatrixRadioButtonsFactory, ResourceWatchingControlPlugin>> {
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
