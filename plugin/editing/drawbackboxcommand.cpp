@@ -26,9 +26,8 @@ void ChangeDrawbackBoxCommand::write(const DrawbackBoxContents &contents, Vexa::
     for (int index = 0; index < group->count(); ++index) {
         group->setCurrentIndex(index);
         // A box without a title has no row in the editor, so there may be fewer titles than pages.
-        if (index >= contents.items.size())
-            continue;
-        group->setPageTitle(contents.items.at(index).text(ItemRole::Text));
+        if (index < contents.items.size())
+            group->setPageTitle(contents.items.at(index).text(ItemRole::Text));
         markTitle(group->widget(index));
     }
     if (core())
@@ -54,6 +53,9 @@ void ChangeDrawbackBoxCommand::replaceBoxes(
     group->replaceBoxes(after);
     for (const DrawbackBoxHold &hold : boxes)
         hold.unshelve(formWindow());
+    // The property editor may show something that has just left.
+    if (formWindow())
+        formWindow()->emitSelectionChanged();
 }
 
 void ChangeDrawbackBoxCommand::markTitle(QWidget *page) const

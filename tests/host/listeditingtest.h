@@ -1,20 +1,14 @@
 #pragma once
 
-#include "hosttest.h"
+#include "editingtest.h"
 #include "panedriver.h"
 
 #include <private/qdesigner_utils_p.h>
 
-#include <QtWidgets/QAction>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QUndoStack>
-
-#include <functional>
 
 using qdesigner_internal::PropertySheetIconValue;
 using qdesigner_internal::PropertySheetStringValue;
@@ -98,18 +92,8 @@ inline void setTexts(QWidget *control, const Kind &kind, const QStringList &text
     }
 }
 
-inline void press(QDialog *dialog, QDialogButtonBox::StandardButton button)
-{
-    QTest::mouseClick(dialog->findChild<QDialogButtonBox *>()->button(button), Qt::LeftButton);
-}
-
-inline void press(QDialog *dialog, const char *button)
-{
-    QTest::mouseClick(dialog->findChild<QAbstractButton *>(QLatin1String(button)), Qt::LeftButton);
-}
-
 /// Base of the tests that edit a list control in the embedded Designer.
-class ListEditingTest : public HostTest {
+class ListEditingTest : public EditingTest {
     Q_OBJECT
 
 protected:
@@ -118,25 +102,8 @@ protected:
         return m_host->drop(form, QLatin1String("Vexa::") + QLatin1String(kind.control), QPoint(60, 60));
     }
 
-    /// Hands the dialog that \a opener opens to \a use, and cancels it where that leaves it open.
-    static bool inDialog(const std::function<void()> &opener, const std::function<void(QDialog *)> &use)
+    bool edit(FormWindow *form, QWidget *control, const Kind &kind, const UseDialog &use)
     {
-        bool opened = false;
-        QTimer::singleShot(0, qApp, [&] {
-            const QPointer<QDialog> dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            opened = true;
-            use(dialog);
-            if (dialog && dialog->isVisible())
-                dialog->reject();
-        });
-        opener();
-        return opened;
-    }
-    bool edit(FormWindow *form, QWidget *control, const Kind &kind, const std::function<void(QDialog *)> &use)
-    {
-        QAction *action = m_host->menuAction(form, control, QLatin1String(kind.entry));
-        return action && inDialog([action] { action->trigger(); }, use);
+        return EditingTest::edit(form, control, kind.entry, use);
     }
 };

@@ -7,17 +7,6 @@
 class TestListEditing : public ListEditingTest {
     Q_OBJECT
 
-    QString imageFile()
-    {
-        const QString path = m_dir.filePath(QStringLiteral("icon.png"));
-        QImage image(16, 16, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        image.save(path);
-        return path;
-    }
-
-    QTemporaryDir m_dir;
-
 private slots:
     void entryStandsOnceInTheMenu_data() { addKinds(); }
     void entryStandsOnceInTheMenu()
