@@ -17,9 +17,10 @@ namespace {
 
 constexpr int flagsRole = qdesigner_internal::ItemFlagsShadowRole;
 
-constexpr int itemRoles[] = {ItemRole::Icon, ItemRole::Text, ItemRole::ToolTip, Qt::StatusTipPropertyRole,
-    Qt::WhatsThisPropertyRole, Qt::FontRole, Qt::TextAlignmentRole, Qt::BackgroundRole, Qt::ForegroundRole,
-    Qt::CheckStateRole, ItemRole::Action, ItemRole::Data};
+// In ascending order, as the fields are kept.
+constexpr int itemRoles[] = {Qt::FontRole, Qt::TextAlignmentRole, Qt::BackgroundRole, Qt::ForegroundRole,
+    Qt::CheckStateRole, ItemRole::Text, ItemRole::Icon, ItemRole::ToolTip, Qt::StatusTipPropertyRole,
+    Qt::WhatsThisPropertyRole, ItemRole::Action, ItemRole::Data};
 
 /// What a variant holds, without a copy; null where it holds another type.
 template <class T>
@@ -69,8 +70,11 @@ ItemData::ItemData(const QTableWidgetItem *item, bool editor) { read(item, edito
 template <class Item>
 void ItemData::read(const Item *item, bool editor)
 {
-    for (const int role : itemRoles)
-        setValue(role, item->data(role));
+    for (const int role : itemRoles) {
+        const QVariant value = item->data(role);
+        if (value.isValid())
+            m_fields.append(Field{role, value});
+    }
     if (editor)
         setValue(flagsRole, item->data(flagsRole));
     else if (int(item->flags()) != defaultFlags<Item>())

@@ -46,10 +46,15 @@ MatrixContents MatrixEditor::load(const MatrixContents &contents, QWidget *matri
 {
     m_loaded = contents;
     contents.applyToTableWidget(m_ui->tableWidget, iconCache(), true);
-    m_ui->rowCounts->setValue(m_ui->tableWidget->rowCount());
-    m_ui->colCounts->setValue(m_ui->tableWidget->columnCount());
+    const int rows = m_ui->tableWidget->rowCount();
+    const int columns = m_ui->tableWidget->columnCount();
+    // Cells without a button are in the table all the same, and of a huge grid not every cell is.
+    m_changed = contents.rowCount != rows || contents.columnCount != columns
+        || contents.items.size() != rows * columns;
+    m_ui->rowCounts->setValue(rows);
+    m_ui->colCounts->setValue(columns);
     setupEditor(matrix, matrixButtonPropList);
-    if (m_ui->tableWidget->columnCount() > 0 && m_ui->tableWidget->rowCount() > 0)
+    if (columns > 0 && rows > 0)
         m_ui->tableWidget->setCurrentCell(0, 0);
     updateEditor();
     return contents;
@@ -57,6 +62,9 @@ MatrixContents MatrixEditor::load(const MatrixContents &contents, QWidget *matri
 
 MatrixContents MatrixEditor::contents() const
 {
+    // Most dialogs are closed as they were opened: that takes no time then, however large the grid is.
+    if (!m_changed)
+        return m_loaded;
     MatrixContents contents = MatrixContents::fromTableWidget(m_ui->tableWidget, true);
     contents.shareEqualCells(m_loaded);
     return contents;
@@ -78,6 +86,7 @@ void MatrixEditor::updateEditor()
 void MatrixEditor::on_rowCountsChanged(int rowCounts)
 {
     const int column = m_ui->tableWidget->currentColumn();
+    m_changed |= rowCounts != m_ui->tableWidget->rowCount();
     m_ui->tableWidget->setRowCount(rowCounts);
     updateEditor();
     // One step back on purpose: from the first column no cell stays current.
@@ -87,6 +96,7 @@ void MatrixEditor::on_rowCountsChanged(int rowCounts)
 void MatrixEditor::on_colCountsChanged(int colCounts)
 {
     const int row = m_ui->tableWidget->currentRow();
+    m_changed |= colCounts != m_ui->tableWidget->columnCount();
     m_ui->tableWidget->setColumnCount(colCounts);
     updateEditor();
     m_ui->tableWidget->setCurrentCell(row - 1, colCounts - 1); // as for the rows
@@ -103,6 +113,7 @@ void MatrixEditor::on_tableWidget_currentCellChanged(int, int, int, int)
 
 void MatrixEditor::on_tableWidget_itemChanged(QTableWidgetItem *item)
 {
+    m_changed = true;
     if (m_updatingBrowser)
         return;
     auto text = item->data(ItemRole::Text).value<PropertySheetStringValue>();

@@ -47,6 +47,7 @@ private:
 
     const std::unique_ptr<Ui::MatrixPushButtonsEditor> m_ui;
     MatrixContents m_loaded;
+    bool m_changed = false; ///< whether the table may differ from what was loaded
 };
 
 /// For the matrices of push buttons, radio buttons and check boxes.
