@@ -27,7 +27,7 @@ void nameNewPage(QWidget *page, QDesignerFormWindowInterface *form, const QStrin
 {
     page->setObjectName(QStringLiteral("page"));
     form->ensureUniqueObjectName(page);
-    for (int number = 2; otherNames.contains(page->objectName()); ++number) {
+    for (int number = otherNames.size() + 1; otherNames.contains(page->objectName()); ++number) {
         page->setObjectName(QStringLiteral("page_%1").arg(number));
         form->ensureUniqueObjectName(page);
     }

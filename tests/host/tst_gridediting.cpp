@@ -266,6 +266,9 @@ private slots:
         QFETCH(QSize, spinSize);
         QFETCH(bool, cleanAfterOk);
         for (const Kind &kind : kinds) {
+            // Thousands of buttons take their time, and the three button matrices are read alike.
+            if (tableSize.width() > 50 && &kind != &kinds[0] && kind.sizeByProperties)
+                continue;
             FormWindow *form = newForm();
             QWidget *matrix = drop(form, kind);
             setGrid(matrix, rows, columns, list);
