@@ -4,7 +4,6 @@
 #include "propertytreemodel.h"
 #include "valueeditors.h"
 
-#include <QtGui/QFocusEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 
@@ -80,15 +79,6 @@ void PropertyDelegate::updateEditorGeometry(
     QWidget *editor, const QStyleOptionViewItem &option, const QModelIndex &) const
 {
     editor->setGeometry(option.rect.adjusted(0, 0, 0, -1));
-}
-
-bool PropertyDelegate::eventFilter(QObject *object, QEvent *event)
-{
-    // An editor stays open while another window, such as its own dialog, is in front.
-    if (event->type() == QEvent::FocusOut
-        && static_cast<QFocusEvent *>(event)->reason() == Qt::ActiveWindowFocusReason)
-        return false;
-    return QItemDelegate::eventFilter(object, event);
 }
 
 } // namespace qdesigner_internal

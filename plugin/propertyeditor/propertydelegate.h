@@ -23,9 +23,6 @@ public:
     void updateEditorGeometry(
         QWidget *editor, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
-protected:
-    bool eventFilter(QObject *object, QEvent *event) override;
-
 private slots:
     void commitSender();
 

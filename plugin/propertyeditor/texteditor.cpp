@@ -21,18 +21,17 @@ bool hasDialog(TextPropertyValidationMode mode)
     return mode == ValidationMultiLine || mode == ValidationRichText;
 }
 
-// Runs a Dialog over a text. The dialog goes with its parent, also while it runs.
+// Runs a Dialog over a text, which stays as it is if it is cancelled. The dialog goes with its parent, also
+// while it runs.
 template <class Dialog>
-bool editText(QDesignerFormEditorInterface *core, QString *text, QWidget *parent)
+void editText(QDesignerFormEditorInterface *core, QString *text, QWidget *parent)
 {
     const QPointer<Dialog> dialog = new Dialog(core, parent);
     dialog->setDefaultFont(QApplication::font());
     dialog->setText(*text);
-    const bool accepted = dialog->showDialog() == QDialog::Accepted && dialog;
-    if (accepted)
+    if (dialog->showDialog() == QDialog::Accepted && dialog)
         *text = dialog->text();
     delete dialog;
-    return accepted;
 }
 
 } // namespace
@@ -97,10 +96,11 @@ void TextEditor::editInDialog()
     const QString oldText = m_editor->text();
     QString text = oldText;
     const QPointer<TextEditor> guard(this);
-    const bool accepted = m_editor->textPropertyValidationMode() == ValidationRichText
-        ? editText<RichTextEditorDialog>(m_core, &text, this)
-        : editText<PlainTextEditorDialog>(m_core, &text, this);
-    if (!guard || !accepted || text == oldText)
+    if (m_editor->textPropertyValidationMode() == ValidationRichText)
+        editText<RichTextEditorDialog>(m_core, &text, this);
+    else
+        editText<PlainTextEditorDialog>(m_core, &text, this);
+    if (!guard || text == oldText)
         return;
     const QSignalBlocker blocker(m_editor);
     m_editor->setText(text);

@@ -1,5 +1,6 @@
 #include "panedriver.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
@@ -111,7 +112,11 @@ bool PaneDriver::withDialog(
             return;
         shown = true;
         timer.stop();
+        const QPointer<QWidget> guard(dialog);
         inDialog(dialog);
+        // After a failure nobody else would close it.
+        if (guard)
+            guard->close();
     });
     timer.start(0);
     action();

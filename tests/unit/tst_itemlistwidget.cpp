@@ -26,13 +26,21 @@ public:
     mutable int count = 0;
 };
 
+// Large enough to be shown at each size that is asked for.
+QIcon largeIcon()
+{
+    QPixmap pixmap(64, 64);
+    pixmap.fill(Qt::red);
+    return QIcon(pixmap);
+}
+
 QListWidgetItem *makeItem(int number)
 {
     auto *item = new QListWidgetItem(QStringLiteral("Item %1").arg(number));
     if (number % 7 == 0)
         item->setText(item->text() + QLatin1String("\nand a second line that is wider than the view is"));
     if (number % 5 == 0)
-        item->setIcon(QApplication::style()->standardIcon(QStyle::SP_ComputerIcon));
+        item->setIcon(largeIcon());
     return item;
 }
 
@@ -74,13 +82,14 @@ private slots:
             [](QListWidget *list) { list->item(3)->setText(QStringLiteral("one\ntwo\nthree")); });
         QTest::newRow("row shrinks") << Change(
             [](QListWidget *list) { list->item(400)->setText(QStringLiteral("x")); });
+        QTest::newRow("row gets wider than the view")
+            << Change([](QListWidget *list) { list->item(3)->setText(QString(1000, QLatin1Char('x'))); });
         QTest::newRow("widest rows shrink") << Change([](QListWidget *list) {
             for (int row = 0; row < list->count(); ++row)
                 list->item(row)->setText(QStringLiteral("x"));
         });
-        QTest::newRow("row gets an icon") << Change([](QListWidget *list) {
-            list->item(1)->setIcon(QApplication::style()->standardIcon(QStyle::SP_ComputerIcon));
-        });
+        QTest::newRow("row gets an icon")
+            << Change([](QListWidget *list) { list->item(1)->setIcon(largeIcon()); });
         QTest::newRow("inserted") << Change([](QListWidget *list) { list->insertItem(2, makeItem(70)); });
         QTest::newRow("deleted") << Change([](QListWidget *list) { delete list->takeItem(7); });
         QTest::newRow("moved") << Change([](QListWidget *list) { list->insertItem(450, list->takeItem(7)); });
@@ -135,6 +144,15 @@ private slots:
             }
             QCOMPARE(list.visualItemRect(list.item(row)), plain.visualItemRect(plain.item(row)));
         }
+        for (QListWidget *each : {static_cast<QListWidget *>(&list), &plain}) {
+            each->verticalScrollBar()->setValue(count / 3);
+            each->grab();
+        }
+        const QPoint top(5, 5);
+        for (QListWidgetItem *item = list.itemAt(top); list.visualItemRect(item).top() < 200;
+             item = list.item(list.row(item) + 1))
+            QCOMPARE(list.visualItemRect(item).height(),
+                plain.visualItemRect(plain.item(list.row(item))).height());
     }
 
     void onlyWhatChangesIsMeasured_data()

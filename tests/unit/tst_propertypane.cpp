@@ -1,142 +1,26 @@
-#include "designerhost.h"
-#include "logwatch.h"
-#include "panedriver.h"
+#include "panetest.h"
 
-#include <propertyeditor/designerpropertymanager.h>
-#include <propertyeditor/itemlisteditor.h>
-
-#include <private/dialoggui_p.h>
-#include <private/formwindowbase_p.h>
-#include <private/qdesigner_utils_p.h>
-
-#include <QtDesigner/QDesignerFormEditorInterface>
-
-#include <QtGui/QClipboard>
-#include <QtTest/QtTest>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialog>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QMenu>
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTextEdit>
 #include <QtWidgets/QToolButton>
-#include <QtWidgets/QTreeView>
-
-#include <memory>
 
 using namespace qdesigner_internal;
 
 namespace {
 
-enum { SizePolicyRole = Qt::UserRole + 40 };
-
-constexpr auto stringType = &DesignerPropertyManager::designerStringTypeId;
-constexpr auto iconType = &DesignerPropertyManager::designerIconTypeId;
-constexpr AbstractItemEditor::PropertyDefinition table[]
-    = {{27, 0, stringType, "text"}, {28, 0, iconType, "icon"}, {29, 0, stringType, "toolTip"},
-        {30, 0, stringType, "statusTip"}, {SizePolicyRole, QMetaType::QSizePolicy, nullptr, "sizePolicy"},
-        {32, QMetaType::QTransform, nullptr, "no such row"}, {0, 0, nullptr, nullptr}};
-
 const QString text = QStringLiteral("text"), icon = QStringLiteral("icon"),
               toolTip = QStringLiteral("toolTip"), sizePolicy = QStringLiteral("sizePolicy");
-const QString themeName = QStringLiteral("pane-test-icon");
-
-/// Answers the question for a file.
-class FileChooser : public DialogGui {
-public:
-    QString getOpenImageFileName(QWidget *, const QString &, const QString &, const QString &, QString *,
-        QFileDialog::Options) override
-    {
-        ++asked;
-        return answer;
-    }
-    QString answer;
-    int asked = 0;
-};
-
-struct Pane {
-    explicit Pane(QDesignerFormWindowInterface *form)
-        : editor(form, nullptr)
-    {
-        item->setData(27, QVariant::fromValue(PropertySheetStringValue(item->text())));
-        editor.setupEditor(form ? form->mainContainer() : nullptr, table);
-        editor.resize(700, 900);
-        editor.show();
-        QVERIFY(QTest::qWaitForWindowActive(&editor));
-        editor.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
-        QTRY_VERIFY(tree()->width() > 200);
-    }
-    QTreeView *tree() const { return driver.tree(); }
-    PropertySheetStringValue string(int role) const
-    {
-        return item->data(role).value<PropertySheetStringValue>();
-    }
-    PropertySheetIconValue iconValue() const { return item->data(28).value<PropertySheetIconValue>(); }
-    QString iconPath(QIcon::Mode mode = QIcon::Normal, QIcon::State state = QIcon::Off) const
-    {
-        return iconValue().pixmap(mode, state).path();
-    }
-    void trigger(const QString &row, const char *action)
-    {
-        const auto actions = driver.editor(row)->findChildren<QAction *>();
-        for (QAction *candidate : actions) {
-            if (candidate->text() == QLatin1String(action))
-                candidate->trigger();
-        }
-    }
-    QString label(const QString &row) const
-    {
-        QStringList texts;
-        const auto labels = driver.editor(row)->findChildren<QLabel *>();
-        for (const QLabel *label : labels)
-            texts += label->text();
-        return texts.join(QString());
-    }
-
-    ItemListEditor editor;
-    QListWidgetItem *item = new QListWidgetItem(QStringLiteral("item"), editor.listWidget());
-    PaneDriver driver{&editor};
-};
 
 } // namespace
 
-class PropertyPaneTest : public QObject {
+class PropertyPaneTest : public PaneTest {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        m_log = std::make_unique<LogWatch>();
-        m_host = std::make_unique<DesignerHost>(QStringList());
-        m_chooser = new FileChooser;
-        m_host->core()->setDialogGui(m_chooser);
-        QVERIFY(m_files.isValid());
-        makeIconTheme();
-        for (const char *name : {"a.png", "b.png"})
-            QVERIFY(makePixmap(file(name)));
-    }
-    void init()
-    {
-        m_form = m_host->newForm();
-        m_pane = std::make_unique<Pane>(m_form);
-    }
-    void cleanup()
-    {
-        m_pane.reset();
-        m_host->closeForm(m_form);
-        m_chooser->asked = 0;
-        QCOMPARE(m_log->takeUnexpected().join(QLatin1Char('\n')), QString());
-    }
-    void cleanupTestCase()
-    {
-        m_host.reset();
-        m_log.reset();
-    }
-
     void rowsHaveDesignersSubRows()
     {
         const auto names = [](const char *text) {
@@ -234,90 +118,6 @@ private slots:
         QVERIFY(!m_pane->driver.moreButton(QStringLiteral("statusTip")));
     }
 
-    void iconsAreChosenStateByState()
-    {
-        PaneDriver &pane = m_pane->driver;
-        choose(icon, "a.png");
-        QCOMPARE(m_pane->iconPath(), file("a.png"));
-        QCOMPARE(pane.valueText(icon), QStringLiteral("a.png"));
-        QCOMPARE(m_pane->label(icon), QStringLiteral("a.png"));
-        QVERIFY(!m_pane->item->icon().isNull());
-
-        const QString state = QStringLiteral("icon/Selected On");
-        choose(state, "b.png");
-        QCOMPARE(m_pane->iconValue().mask(), 0x81u);
-        QCOMPARE(m_pane->iconPath(QIcon::Selected, QIcon::On), file("b.png"));
-        QVERIFY(pane.isModified(state) && pane.isModified(icon)
-            && !pane.isModified(QStringLiteral("icon/Normal On")));
-
-        // Another file for the whole icon leaves nothing of the old one.
-        choose(icon, "b.png");
-        QCOMPARE(m_pane->iconValue().mask(), 0x1u);
-        QVERIFY(!pane.isModified(state));
-
-        pane.reset(QStringLiteral("icon/Normal Off"));
-        QVERIFY(!m_pane->item->data(28).isValid());
-        QVERIFY(!pane.isModified(icon));
-        QVERIFY(m_pane->item->icon().isNull());
-        choose(icon, "");
-        QVERIFY(!m_pane->item->data(28).isValid());
-    }
-
-    void iconButtonAsksAgainWhereTheIconIsFrom()
-    {
-        const auto title = [this] {
-            QString title;
-            PaneDriver::withDialog([this] { m_pane->driver.moreButton(icon)->click(); },
-                [&title](QWidget *dialog) {
-                    title = dialog->windowTitle();
-                    qobject_cast<QDialog *>(dialog)->reject();
-                });
-            return title;
-        };
-        QVERIFY(m_pane->driver.open(icon));
-        QCOMPARE(title(), QStringLiteral("Select Resource"));
-        choose(icon, "a.png");
-        QCOMPARE(m_chooser->asked, 1);
-        m_pane->driver.moreButton(icon)->click();
-        QCOMPARE(m_chooser->asked, 2);
-        m_pane->driver.type(QStringLiteral("icon/Theme"), themeName);
-        m_pane->driver.open(icon);
-        QCOMPARE(title(), QStringLiteral("Set Icon From Theme"));
-    }
-
-    void iconIsTakenFromTheTheme()
-    {
-        choose(icon, "a.png");
-        QVERIFY(PaneDriver::withDialog([this] { m_pane->trigger(icon, "Set Icon From Theme..."); },
-            [](QWidget *dialog) {
-                QCOMPARE(dialog->findChild<QLabel *>()->text(),
-                    QStringLiteral("Input icon name from the current theme:"));
-                QTest::keyClicks(dialog->findChild<QLineEdit *>(), themeName);
-                qobject_cast<QDialog *>(dialog)->accept();
-            }));
-        QCOMPARE(m_pane->iconValue().theme(), themeName);
-        QCOMPARE(m_pane->iconPath(), QString());
-        QCOMPARE(m_pane->driver.valueText(icon), QLatin1String("[Theme] ") + themeName);
-        QCOMPARE(m_pane->label(icon), QLatin1String("[Theme] ") + themeName);
-        QCOMPARE(m_pane->driver.valueText(QStringLiteral("icon/Theme")), themeName);
-        m_pane->driver.reset(QStringLiteral("icon/Theme"));
-        QVERIFY(!m_pane->item->data(28).isValid());
-    }
-
-    void pathsAreCopiedAndPasted()
-    {
-        choose(icon, "a.png");
-        m_pane->trigger(icon, "Copy Path");
-        QCOMPARE(QApplication::clipboard()->text(), file("a.png"));
-        QApplication::clipboard()->setText(file("b.png") + QLatin1String("\nsecond line"));
-        m_pane->trigger(icon, "Paste Path");
-        QCOMPARE(m_pane->iconPath(), file("b.png"));
-        QApplication::clipboard()->setText(themeName);
-        m_pane->trigger(icon, "Paste Path");
-        QCOMPARE(m_pane->iconValue().theme(), themeName);
-        QCOMPARE(m_pane->iconPath(), QString());
-    }
-
     void sizePolicyIsEditedInItsSubRows()
     {
         PaneDriver &pane = m_pane->driver;
@@ -342,7 +142,7 @@ private slots:
 
         QSizePolicy expected(QSizePolicy::MinimumExpanding, QSizePolicy::Ignored);
         expected.setVerticalStretch(200);
-        QCOMPARE(m_pane->item->data(SizePolicyRole).value<QSizePolicy>(), expected);
+        QCOMPARE(m_pane->item->data(Pane::SizePolicyRole).value<QSizePolicy>(), expected);
         QCOMPARE(pane.valueText(sizePolicy), QStringLiteral("[MinimumExpanding, Ignored, 0, 200]"));
         QVERIFY(pane.isModified(sizePolicy));
     }
@@ -397,61 +197,6 @@ private slots:
         const QRect cell = m_pane->tree()->visualRect(pane.value(toolTip));
         QCOMPARE(pane.editor(toolTip)->geometry(), cell.adjusted(0, 0, 0, -1));
     }
-
-    void paneWorksWithoutAForm()
-    {
-        Pane pane(nullptr);
-        QCOMPARE(pane.editor.iconCache(), static_cast<DesignerIconCache *>(nullptr));
-        pane.driver.type(text, QStringLiteral("x"));
-        pane.driver.moreButton(text)->click();
-        QCOMPARE(pane.item->text(), QStringLiteral("x"));
-        for (const char *state : {"icon", "icon/Normal Off"}) {
-            const QString row = QString::fromLatin1(state);
-            QVERIFY(pane.driver.open(row));
-            pane.driver.moreButton(row)->click();
-            pane.trigger(row, "Choose File...");
-            QApplication::clipboard()->setText(file("a.png"));
-            pane.trigger(row, "Paste Path");
-        }
-        QCOMPARE(pane.iconPath(), file("a.png"));
-        pane.editor.grab();
-        QVERIFY(pane.item->icon().isNull());
-    }
-
-private:
-    QString file(const char *name) const { return m_files.filePath(QString::fromLatin1(name)); }
-    static bool makePixmap(const QString &path)
-    {
-        QPixmap pixmap(16, 16);
-        pixmap.fill(Qt::red);
-        return pixmap.save(path);
-    }
-    void makeIconTheme()
-    {
-        const QString name = QStringLiteral("panetest");
-        QVERIFY(QDir(m_files.path()).mkpath(name + QLatin1String("/16x16")));
-        QVERIFY(makePixmap(file("panetest/16x16/pane-test-icon.png")));
-        QFile index(file("panetest/index.theme"));
-        QVERIFY(index.open(QIODevice::WriteOnly));
-        index.write("[Icon Theme]\nName=panetest\nComment=test\nDirectories=16x16\n\n[16x16]\nSize=16\n");
-        index.close();
-        QIcon::setThemeSearchPaths({m_files.path()});
-        QIcon::setThemeName(name);
-        QVERIFY(QIcon::hasThemeIcon(themeName));
-    }
-    void choose(const QString &row, const char *name)
-    {
-        m_chooser->answer = *name ? file(name) : QString();
-        QVERIFY(m_pane->driver.open(row) || m_pane->driver.editor(row));
-        m_pane->trigger(row, "Choose File...");
-    }
-
-    std::unique_ptr<LogWatch> m_log;
-    std::unique_ptr<DesignerHost> m_host;
-    FileChooser *m_chooser = nullptr; // the core's
-    QTemporaryDir m_files;
-    FormWindowBase *m_form = nullptr;
-    std::unique_ptr<Pane> m_pane;
 };
 
 QTEST_MAIN(PropertyPaneTest)
