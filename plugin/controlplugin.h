@@ -6,6 +6,7 @@
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
 #include <QtCore/QObject>
+#include <QtCore/QPointer>
 #include <QtCore/QVariant>
 
 class QDesignerFormEditorInterface;
@@ -58,8 +59,9 @@ public:
 protected:
     void keepCore(QDesignerFormEditorInterface *core) override;
 
-    QDesignerFormEditorInterface *m_core = nullptr;
-    QDesignerPropertyEditorInterface *m_propertyEditor = nullptr;
+    // A descriptor outlives the form editor where a program takes that down before it ends.
+    QPointer<QDesignerFormEditorInterface> m_core;
+    QPointer<QDesignerPropertyEditorInterface> m_propertyEditor;
 };
 
 /// A descriptor whose controls repaint after every property edit.
