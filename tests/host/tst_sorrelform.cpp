@@ -106,6 +106,10 @@ private slots:
         add("repeated name",
             form("<widget class=\"QLabel\" name=\"l\"/><widget class=\"QLabel\" name=\"l\"/>"),
             {QStringLiteral("repeated-name")});
+        // In Designer itself this is a question, which nobody is there to answer.
+        add("absent resource file",
+            form(QByteArray(), "<resources><include location=\"absent.qrc\"/></resources>"),
+            {QStringLiteral("warning")});
         add("more rows than fit", matrix("4294967295"), {});
         add("rows that are no number", matrix("many"), {});
         add("a thousand nested widgets",

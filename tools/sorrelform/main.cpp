@@ -3,6 +3,7 @@
 #include "designerhost.h"
 #include "formcheck.h"
 #include "pluginfolder.h"
+#include "silentdialogs.h"
 #include "warningcollector.h"
 
 #include <QtDesigner/QDesignerFormEditorInterface>
@@ -220,6 +221,7 @@ int main(int argc, char *argv[])
                         .arg(plugin.searched().join(QLatin1String(", "))));
     }
     DesignerHost host(QStringList(plugin.path()) + parser.values(pluginPath));
+    host.core()->setDialogGui(new SilentDialogs); // the core takes it
     const QDesignerPluginManager *plugins = host.core()->pluginManager();
     const QStringList failed = plugins->failedPlugins();
     if (!failed.isEmpty())
