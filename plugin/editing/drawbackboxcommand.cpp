@@ -8,7 +8,8 @@
 // The text is that of the option radios' command on purpose: it has always been so, and translations know it.
 ChangeDrawbackBoxCommand::ChangeDrawbackBoxCommand(QDesignerFormWindowInterface *formWindow)
     : ChangeContentsCommand(
-        QCoreApplication::translate("Command", "Change OptionRadios Contents"), formWindow, "repaint")
+        QCoreApplication::translate("Command", "Change OptionRadios Contents", "drawback boxes"), formWindow,
+        "repaint")
 {
 }
 

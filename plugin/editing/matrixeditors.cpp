@@ -22,6 +22,13 @@ constexpr MatrixEditor::PropertyDefinition matrixButtonPropList[]
     = {{ItemRole::Text, 0, string, "text"}, {ItemRole::Icon, 0, icon, "icon"},
         {ItemRole::ToolTip, 0, string, "toolTip"}, {ItemRole::Action, 0, string, "action"}, {}};
 
+// Looked up under the name of the class at hand.
+[[maybe_unused]] constexpr const char *toggleTexts[]
+    = {QT_TRANSLATE_NOOP("MatrixButtonsEditor", "Properties &>>"),
+        QT_TRANSLATE_NOOP("MatrixButtonsEditor", "Properties &<<"),
+        QT_TRANSLATE_NOOP("MatrixPopButtonsEditor", "Properties &>>"),
+        QT_TRANSLATE_NOOP("MatrixPopButtonsEditor", "Properties &<<")};
+
 } // namespace
 
 MatrixEditor::MatrixEditor(QDesignerFormWindowInterface *form, QDialog *dialog)

@@ -188,7 +188,8 @@ void AbstractItemEditor::cacheReloaded()
 
 void AbstractItemEditor::setPropertyBrowserVisible(bool visible, QAbstractButton *button)
 {
-    const char *text = visible ? QT_TR_NOOP("Properties &>>") : QT_TR_NOOP("Properties &<<");
+    // The subclasses list these texts for the translators, each in its own context.
+    const char *text = visible ? "Properties &>>" : "Properties &<<";
     button->setText(QCoreApplication::translate(metaObject()->className(), text));
     if (m_propertyBrowser)
         m_propertyBrowser->setVisible(visible);

@@ -8,6 +8,11 @@
 
 namespace qdesigner_internal {
 
+// Looked up under the name of the class at hand.
+[[maybe_unused]] static constexpr const char *toggleTexts[]
+    = {QT_TRANSLATE_NOOP("qdesigner_internal::ItemListEditor", "Properties &>>"),
+        QT_TRANSLATE_NOOP("qdesigner_internal::ItemListEditor", "Properties &<<")};
+
 ItemListEditor::ItemListEditor(QDesignerFormWindowInterface *form, QWidget *parent)
     : AbstractItemEditor(form, parent)
     , ui(std::make_unique<Ui::ItemListEditor>())

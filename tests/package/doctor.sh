@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
-# doctor.sh SOURCE BUILD SCRATCH PLUGINS: one broken installation after the other, and whether the doctor names it.
-# PLUGINS is Qt's plugin folder.
+# doctor.sh SOURCE BUILD SCRATCH: one broken installation after the other, and whether the doctor names it.
 set -euo pipefail
-source=$1 build=$2 scratch=$3 plugins=$4
+source=$1 build=$2 scratch=$3
 rm -rf "$scratch"
 mkdir -p "$scratch"/{bin,home,stage}
 export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/home LC_ALL=C
@@ -41,8 +40,8 @@ mv "$installed" "$scratch/plugins/"
 expect 1 "lies in the wrong folder: move $scratch/plugins/libSorrelPlugin.so"
 
 install_plugin
-cp "$scratch/stage$plugins/designer/libSorrelPlugin.so" "$installed"
-if ldd "$installed" | grep -q 'libSorrel.so.0 => not found'; then
+find "$scratch/stage" -name libSorrelPlugin.so -exec cp {} "$installed" \;
+if ldd "$installed" | grep 'libSorrel.so.0 => not found' >/dev/null; then
     expect 1 'libraries of the plugin are not found: libSorrel.so.0;'
 else
     echo 'the stand-in is installed on this machine; a missing library was not tried'

@@ -6,10 +6,12 @@ set(ENV{DESTDIR} "${SCRATCH}")
 execute_process(COMMAND ${CMAKE_COMMAND} --install "${BUILD}" OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
 unset(ENV{DESTDIR})
 
-execute_process(COMMAND ${QMAKE} -query QT_INSTALL_PLUGINS OUTPUT_VARIABLE plugins OUTPUT_STRIP_TRAILING_WHITESPACE)
 foreach(file
-        "${plugins}/designer/libSorrelPlugin.so"
+        "${PLUGINS}/designer/libSorrelPlugin.so"
+        "${TRANSLATIONS}/sorrelplugin_de.qm"
+        "${TRANSLATIONS}/sorrelplugin_zh_CN.qm"
         "${PREFIX}/${LIBDIR}/libSorrel.so"
+        "${PREFIX}/bin/sorrel-form"
         "${PREFIX}/${LIBDIR}/cmake/Sorrel/SorrelConfig.cmake"
         "${PREFIX}/${LIBDIR}/cmake/SorrelPlugin/SorrelPluginConfig.cmake"
         "${PREFIX}/include/nui/Sorrel/SrComboBox.h"
@@ -34,7 +36,7 @@ endforeach()
 file(REMOVE "${SCRATCH}.stripped")
 
 # The installed plugin finds the installed library, without the build folder's help.
-execute_process(COMMAND readelf -d "${SCRATCH}${plugins}/designer/libSorrelPlugin.so" OUTPUT_VARIABLE dynamic
+execute_process(COMMAND readelf -d "${SCRATCH}${PLUGINS}/designer/libSorrelPlugin.so" OUTPUT_VARIABLE dynamic
     COMMAND_ERROR_IS_FATAL ANY)
 if(NOT dynamic MATCHES "RUNPATH[^\n]*${PREFIX}/${LIBDIR}")
     message(SEND_ERROR "the installed plugin does not look in ${PREFIX}/${LIBDIR}:\n${dynamic}")
