@@ -1,16 +1,20 @@
 #pragma once
 
 #include "hosttest.h"
+#include "panedriver.h"
+#include "testdata.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
-#include <QtGui/QImage>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QMenu>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTreeView>
+#include <QtWidgets/QUndoStack>
 
 #include <functional>
 
@@ -63,6 +67,15 @@ protected:
         return QTest::qWaitFor([&title] { return !title.isNull(); }) ? title : QString();
     }
 
+    /// How often the context menu of a control has this entry.
+    int entries(FormWindow *form, QWidget *control, const char *entry)
+    {
+        QStringList texts;
+        for (const QAction *action : m_host->contextMenu(form, control)->actions())
+            texts += action->text();
+        return texts.count(QLatin1String(entry));
+    }
+
     static void press(const QDialog *dialog, QDialogButtonBox::StandardButton button)
     {
         QTest::mouseClick(dialog->findChild<QDialogButtonBox *>()->button(button), Qt::LeftButton);
@@ -72,26 +85,10 @@ protected:
         QTest::mouseClick(dialog->findChild<QAbstractButton *>(QLatin1String(button)), Qt::LeftButton);
     }
 
-    /// The first line in which two saved forms differ, empty where they are the same.
-    static QString difference(const QString &actual, const QString &expected)
-    {
-        const QStringList lines = actual.split(QLatin1Char('\n'));
-        const QStringList expectedLines = expected.split(QLatin1Char('\n'));
-        for (int i = 0; i < qMax(lines.size(), expectedLines.size()); ++i) {
-            if (lines.value(i) != expectedLines.value(i) || i >= qMin(lines.size(), expectedLines.size()))
-                return QStringLiteral("line %1: %2 instead of %3")
-                    .arg(i + 1)
-                    .arg(lines.value(i), expectedLines.value(i));
-        }
-        return QString();
-    }
-
     QString imageFile() const
     {
         const QString path = m_dir.filePath(QStringLiteral("icon.png"));
-        QImage image(16, 16, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        image.save(path);
+        saveImage(path);
         return path;
     }
 

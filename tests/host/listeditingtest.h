@@ -1,14 +1,11 @@
 #pragma once
 
 #include "editingtest.h"
-#include "panedriver.h"
 
 #include <private/qdesigner_utils_p.h>
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QListWidget>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QUndoStack>
 
 using qdesigner_internal::PropertySheetIconValue;
 using qdesigner_internal::PropertySheetStringValue;
@@ -19,25 +16,19 @@ struct Kind {
     const char *entry;
     const char *title;
     const char *undoText;
-    QVector<QPair<QString, const char *>>
-        fields; ///< row of the pane, property of the control ("" for item data)
+    QVector<QPair<const char *, const char *>> fields; ///< row of the pane, property ("" for item data)
 };
 
 inline const Kind kinds[] = {
-    {"ComboBox", "Edit Items", "Edit ComboBox", "",
-        {{QStringLiteral("text"), ""}, {QStringLiteral("icon"), ""},
-            {QStringLiteral("action"), "actionList"}}},
+    {"ComboBox", "Edit Items", "Edit ComboBox", "", {{"text", ""}, {"icon", ""}, {"action", "actionList"}}},
     {"CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", "",
-        {{QStringLiteral("text"), "itemTextList"}, {QStringLiteral("toolTip"), "toolTips"}}},
+        {{"text", "itemTextList"}, {"toolTip", "toolTips"}}},
     {"OptionComboBox", "Edit Items", "Edit Option ComboBox", "",
-        {{QStringLiteral("text"), "textList"}, {QStringLiteral("icon"), "iconList"},
-            {QStringLiteral("data"), "dataList"}}},
+        {{"text", "textList"}, {"icon", "iconList"}, {"data", "dataList"}}},
     {"OptionButtons", "Edit Buttons", "Edit OptionButtons", "Change OptionButtons Contents",
-        {{QStringLiteral("text"), "textList"}, {QStringLiteral("icon"), "iconList"},
-            {QStringLiteral("tooltip"), "toolTips"}, {QStringLiteral("data"), "dataList"}}},
+        {{"text", "textList"}, {"icon", "iconList"}, {"tooltip", "toolTips"}, {"data", "dataList"}}},
     {"OptionRadios", "Edit Buttons", "Edit OptionRadios", "Change OptionRadios Contents",
-        {{QStringLiteral("text"), "textList"}, {QStringLiteral("icon"), "iconList"},
-            {QStringLiteral("tooltip"), "toolTips"}, {QStringLiteral("data"), "dataList"}}},
+        {{"text", "textList"}, {"icon", "iconList"}, {"tooltip", "toolTips"}, {"data", "dataList"}}},
 };
 
 inline void addKinds()
@@ -53,43 +44,25 @@ inline const Kind &currentKind()
     return kinds[kind];
 }
 
-/// The strings of one field, as the control itself shows or answers them.
-inline QStringList field(const QWidget *control, const QPair<QString, const char *> &field)
-{
-    if (*field.second)
-        return control->property(field.second).toStringList();
-    const auto *comboBox = static_cast<const QComboBox *>(control);
-    QStringList result;
-    for (int i = 0; i < comboBox->count(); ++i) {
-        result += field.first == QLatin1String("text") ? comboBox->itemText(i)
-                                                       : comboBox->itemData(i, 28)
-                                                             .value<PropertySheetIconValue>()
-                                                             .pixmap(QIcon::Normal, QIcon::Off)
-                                                             .path();
-    }
-    return result;
-}
-
+/// The strings of each field, as the control itself shows or answers them.
 inline QVector<QStringList> snapshot(const QWidget *control, const Kind &kind)
 {
     QVector<QStringList> result;
-    for (const auto &each : kind.fields)
-        result += field(control, each);
+    for (const auto &field : kind.fields) {
+        if (*field.second) {
+            result += control->property(field.second).toStringList();
+            continue;
+        }
+        const auto *comboBox = static_cast<const QComboBox *>(control);
+        QStringList strings;
+        for (int i = 0; i < comboBox->count(); ++i) {
+            const auto icon = comboBox->itemData(i, 28).value<PropertySheetIconValue>();
+            strings += qstrcmp(field.first, "text") == 0 ? comboBox->itemText(i)
+                                                         : icon.pixmap(QIcon::Normal, QIcon::Off).path();
+        }
+        result += strings;
+    }
     return result;
-}
-
-/// Gives a control items with these texts, as a form that is loaded would.
-inline void setTexts(QWidget *control, const Kind &kind, const QStringList &texts)
-{
-    if (*kind.fields.first().second) {
-        control->setProperty(kind.fields.first().second, texts);
-        return;
-    }
-    auto *comboBox = static_cast<QComboBox *>(control);
-    for (const QString &text : texts) {
-        comboBox->addItem(text);
-        comboBox->setItemData(comboBox->count() - 1, QVariant::fromValue(PropertySheetStringValue(text)), 27);
-    }
 }
 
 /// Base of the tests that edit a list control in the embedded Designer.
@@ -97,9 +70,20 @@ class ListEditingTest : public EditingTest {
     Q_OBJECT
 
 protected:
-    QWidget *drop(FormWindow *form, const Kind &kind)
+    /// Drops a control and gives it items with these texts, as a form that is loaded would.
+    QWidget *drop(FormWindow *form, const Kind &kind, const QStringList &texts = QStringList())
     {
-        return m_host->drop(form, QLatin1String("Vexa::") + QLatin1String(kind.control), QPoint(60, 60));
+        QWidget *control
+            = m_host->drop(form, QLatin1String("Vexa::") + QLatin1String(kind.control), QPoint(60, 60));
+        if (auto *comboBox = qobject_cast<QComboBox *>(control)) {
+            for (int i = 0; i < texts.size(); ++i) {
+                comboBox->addItem(texts.at(i));
+                comboBox->setItemData(i, QVariant::fromValue(PropertySheetStringValue(texts.at(i))), 27);
+            }
+        } else if (control && !texts.isEmpty()) {
+            control->setProperty(kind.fields.first().second, texts);
+        }
+        return control;
     }
 
     bool edit(FormWindow *form, QWidget *control, const Kind &kind, const UseDialog &use)

@@ -1,5 +1,4 @@
 #include "editingtest.h"
-#include "panedriver.h"
 
 #include <sorrel/SrDrawbackBoxGroup.h>
 
@@ -8,8 +7,6 @@
 #include <QtDesigner/QDesignerPropertyEditorInterface>
 
 #include <QtWidgets/QListWidget>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QUndoStack>
 
 namespace {
 
@@ -117,10 +114,7 @@ private slots:
     {
         Vexa::DrawbackBoxGroup *group = openGroup(QStringLiteral("A B"));
         QVERIFY(group);
-        QStringList entries;
-        for (const QAction *action : m_host->contextMenu(m_form, group)->actions())
-            entries += action->text();
-        QCOMPARE(entries.count(QStringLiteral("Edit DrawbackBox")), 1);
+        QCOMPARE(entries(m_form, group, "Edit DrawbackBox"), 1);
         QCOMPARE(titleAfterDoubleClick(m_form, group), QStringLiteral("Edit DrawbackBoxGroup"));
         QVERIFY(EditingTest::edit(m_form, group, "Edit DrawbackBox", [&](QDialog *dialog) {
             QCOMPARE(dialog->size(), QSize(550, 360));
@@ -128,7 +122,7 @@ private slots:
             QCOMPARE(list->count(), 2);
             QCOMPARE(list->item(1)->text(), QStringLiteral("B"));
             press(dialog, "showPropertiesButton");
-            QCOMPARE(PaneDriver(dialog).rows().join(QLatin1Char(' ')), QStringLiteral("text tooltip data"));
+            QCOMPARE(PaneDriver(dialog).names().join(QLatin1Char(' ')), QStringLiteral("text tooltip data"));
         }));
     }
 
@@ -221,11 +215,11 @@ private slots:
         for (int round = 0; round < 3; ++round) {
             history()->undo();
             QCOMPARE(dump(group), before);
-            QCOMPARE(difference(DesignerHost::save(m_form), savedBefore), QString());
+            compareTexts(DesignerHost::save(m_form), savedBefore);
             QVERIFY(!m_form->isDirty());
             history()->redo();
             QCOMPARE(dump(group), expected);
-            QCOMPARE(difference(DesignerHost::save(m_form), savedAfter), QString());
+            compareTexts(DesignerHost::save(m_form), savedAfter);
         }
 
         FormWindow *second = open(savedAfter);
@@ -331,12 +325,12 @@ private slots:
             for (int i = states.size() - 2; i >= 0; --i) {
                 history()->undo();
                 QCOMPARE(dump(group), states.at(i).first);
-                QCOMPARE(difference(DesignerHost::save(m_form), states.at(i).second), QString());
+                compareTexts(DesignerHost::save(m_form), states.at(i).second);
             }
             for (int i = 1; i < states.size(); ++i) {
                 history()->redo();
                 QCOMPARE(dump(group), states.at(i).first);
-                QCOMPARE(difference(DesignerHost::save(m_form), states.at(i).second), QString());
+                compareTexts(DesignerHost::save(m_form), states.at(i).second);
             }
         }
         QCOMPARE(reopened(states.last().second), states.last().second);

@@ -1,16 +1,12 @@
 #include "editingtest.h"
-#include "panedriver.h"
 
 #include <QtDesigner/QDesignerPropertySheetExtension>
 
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTableWidget>
-#include <QtWidgets/QUndoStack>
 
 namespace {
 
@@ -115,10 +111,7 @@ private slots:
         FormWindow *form = newForm();
         QWidget *matrix = drop(form, kind);
         QVERIFY(matrix);
-        QStringList entries;
-        for (const QAction *action : m_host->contextMenu(form, matrix)->actions())
-            entries += action->text();
-        QCOMPARE(entries.count(QStringLiteral("Edit Buttons")), 1);
+        QCOMPARE(entries(form, matrix, "Edit Buttons"), 1);
 
         QCOMPARE(titleAfterDoubleClick(form, matrix), QLatin1String(kind.title));
     }
@@ -156,13 +149,13 @@ private slots:
             const auto *toggle = dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton"));
             QCOMPARE(toggle->text(), QStringLiteral("Properties &<<"));
             PaneDriver pane(dialog);
-            QVERIFY(!pane.isVisible());
+            QVERIFY(!pane.tree()->isVisible());
             press(dialog, "showPropertiesButton");
-            QVERIFY(pane.isVisible());
+            QVERIFY(pane.tree()->isVisible());
             QCOMPARE(toggle->text(), QStringLiteral("Properties &>>"));
-            QCOMPARE(pane.rows().join(QLatin1Char(' ')), QStringLiteral("text icon toolTip action"));
+            QCOMPARE(pane.names().join(QLatin1Char(' ')), QStringLiteral("text icon toolTip action"));
             press(dialog, "showPropertiesButton");
-            QVERIFY(!pane.isVisible());
+            QVERIFY(!pane.tree()->isVisible());
         }));
     }
 
@@ -190,10 +183,10 @@ private slots:
             spin(dialog, "rowCounts")->setValue(3);
             table(dialog)->setCurrentCell(2, 0);
             PaneDriver pane(dialog);
-            QVERIFY(pane.type({QStringLiteral("text")}, QStringLiteral("\u05e9 \"1\"")));
-            QVERIFY(pane.type({QStringLiteral("toolTip")}, QStringLiteral("tip")));
-            QVERIFY(pane.type({QStringLiteral("action")}, QStringLiteral("go")));
-            QVERIFY(pane.pastePath({QStringLiteral("icon")}, image));
+            QVERIFY(pane.paste(QStringLiteral("text"), QStringLiteral("\u05e9 \"1\"")));
+            QVERIFY(pane.paste(QStringLiteral("toolTip"), QStringLiteral("tip")));
+            QVERIFY(pane.paste(QStringLiteral("action"), QStringLiteral("go")));
+            QVERIFY(pane.pastePath(QStringLiteral("icon"), image));
             QCOMPARE(table(dialog)->item(2, 0)->text(), QStringLiteral("\u05e9 \"1\""));
             QVERIFY(!table(dialog)->item(2, 0)->icon().isNull());
             press(dialog, "okButton");
@@ -332,9 +325,9 @@ private slots:
                 QCOMPARE(QPoint(table(dialog)->currentColumn(), table(dialog)->currentRow()), current);
                 QCOMPARE(texts(dialog), shown);
                 // The pane stands for the current cell, so without one it takes no input.
-                QCOMPARE(pane.rows().size(), current.x() < 0 ? 0 : 4);
+                QCOMPARE(pane.names().size(), current.x() < 0 ? 0 : 4);
                 table(dialog)->setCurrentCell(0, 0);
-                QCOMPARE(pane.rows().size(), 4);
+                QCOMPARE(pane.names().size(), 4);
             }));
             close(form);
         }
@@ -370,8 +363,8 @@ private slots:
             typeIntoCell(dialog, 0, 0, QStringLiteral("b"));
             typeIntoCell(dialog, 0, 0, QStringLiteral("a"));
             press(dialog, "showPropertiesButton");
-            QVERIFY(PaneDriver(dialog).type({QStringLiteral("text")}, QStringLiteral("c")));
-            QVERIFY(PaneDriver(dialog).type({QStringLiteral("text")}, QStringLiteral("a")));
+            QVERIFY(PaneDriver(dialog).paste(QStringLiteral("text"), QStringLiteral("c")));
+            QVERIFY(PaneDriver(dialog).paste(QStringLiteral("text"), QStringLiteral("a")));
             press(dialog, "okButton");
         }));
         QCOMPARE(form->commandHistory()->count(), steps);

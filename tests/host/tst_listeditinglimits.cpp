@@ -23,8 +23,7 @@ private slots:
         const Kind &kind = currentKind();
         QFETCH(QString, way);
         const QPointer<FormWindow> form = newForm();
-        const QPointer<QWidget> control = drop(form, kind);
-        setTexts(control, kind, {QStringLiteral("a")});
+        const QPointer<QWidget> control = drop(form, kind, words("a"));
         // As in a Designer whose forms share one window; otherwise the dialog goes with the form.
         QWidget sharedWindow;
         QWidget *frame = form->window();
@@ -55,7 +54,7 @@ private slots:
             }
             steps = form ? form->commandHistory()->index() : 0;
             if (open) {
-                QVERIFY(PaneDriver(open).type({QStringLiteral("text")}, QStringLiteral("b")));
+                QVERIFY(PaneDriver(open).paste(QStringLiteral("text"), QStringLiteral("b")));
                 press(open, QDialogButtonBox::Ok);
             }
         }));
@@ -71,27 +70,24 @@ private slots:
     void hundredThousandItems()
     {
         const Kind &kind = currentKind();
-        QStringList texts;
-        for (int i = 0; i < 100000; ++i)
-            texts += QStringLiteral("Item %1").arg(i);
+        const QStringList texts = numbered(100000);
         FormWindow *form = newForm();
-        QWidget *control = drop(form, kind);
-        setTexts(control, kind, texts);
+        QWidget *control = drop(form, kind, texts);
         QVERIFY(edit(form, control, kind, [&](QDialog *dialog) {
             auto *list = dialog->findChild<QListWidget *>();
             QCOMPARE(list->count(), texts.size());
             list->setCurrentRow(50000);
             press(dialog, "deleteListItemButton");
             press(dialog, "showPropertiesButton");
-            QVERIFY(PaneDriver(dialog).type({QStringLiteral("text")}, QStringLiteral("changed")));
+            QVERIFY(PaneDriver(dialog).paste(QStringLiteral("text"), QStringLiteral("changed")));
             press(dialog, QDialogButtonBox::Ok);
         }));
         QStringList expected = texts;
         expected.removeAt(50000);
         expected[50000] = QStringLiteral("changed");
-        QVERIFY(field(control, kind.fields.first()) == expected);
+        QVERIFY(snapshot(control, kind).first() == expected);
         form->commandHistory()->undo();
-        QVERIFY(field(control, kind.fields.first()) == texts);
+        QVERIFY(snapshot(control, kind).first() == texts);
     }
 };
 

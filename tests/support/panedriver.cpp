@@ -2,7 +2,9 @@
 
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
+#include <QtGui/QClipboard>
 #include <QtTest/QtTest>
+#include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolButton>
@@ -54,16 +56,44 @@ QWidget *PaneDriver::open(const QString &path)
 
 QWidget *PaneDriver::editor(const QString &path) const { return m_tree->indexWidget(value(path)); }
 
-void PaneDriver::type(const QString &path, const QString &text)
+bool PaneDriver::type(const QString &path, const QString &text)
 {
-    if (!open(path))
-        return;
-    QLineEdit *edit = lineEdit(path);
+    QLineEdit *edit = open(path) ? lineEdit(path) : nullptr;
+    if (!edit)
+        return false;
     edit->selectAll();
     if (text.isEmpty())
         QTest::keyClick(edit, Qt::Key_Delete);
     else
         QTest::keyClicks(edit, text);
+    return true;
+}
+
+bool PaneDriver::paste(const QString &path, const QString &text)
+{
+    QLineEdit *edit = open(path) ? lineEdit(path) : nullptr;
+    if (!edit)
+        return false;
+    edit->selectAll();
+    QGuiApplication::clipboard()->setText(text);
+    QTest::keyClick(edit, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(edit, Qt::Key_Return);
+    QCoreApplication::processEvents();
+    return true;
+}
+
+bool PaneDriver::pastePath(const QString &path, const QString &file)
+{
+    const QWidget *widget = open(path);
+    QGuiApplication::clipboard()->setText(file);
+    const auto actions = widget ? widget->findChildren<QAction *>() : QList<QAction *>();
+    for (QAction *action : actions) {
+        if (action->text() == QLatin1String("Paste Path")) {
+            action->trigger();
+            return true;
+        }
+    }
+    return false;
 }
 
 void PaneDriver::reset(const QString &path)
@@ -73,23 +103,17 @@ void PaneDriver::reset(const QString &path)
 }
 
 // The reset button has an icon and no text, the other one three dots.
-QToolButton *PaneDriver::resetButton(const QString &path) const
-{
-    const QWidget *widget = editor(path);
-    const auto buttons = widget ? widget->findChildren<QToolButton *>() : QList<QToolButton *>();
-    for (QToolButton *button : buttons) {
-        if (button->text().isEmpty() && button->isVisible() && button->parentWidget() == widget)
-            return button;
-    }
-    return nullptr;
-}
+QToolButton *PaneDriver::resetButton(const QString &path) const { return button(path, QString()); }
 
-QToolButton *PaneDriver::moreButton(const QString &path) const
+QToolButton *PaneDriver::moreButton(const QString &path) const { return button(path, QStringLiteral("...")); }
+
+QToolButton *PaneDriver::button(const QString &path, const QString &text) const
 {
     const QWidget *widget = editor(path);
     const auto buttons = widget ? widget->findChildren<QToolButton *>() : QList<QToolButton *>();
     for (QToolButton *button : buttons) {
-        if (button->text() == QLatin1String("...") && button->isVisible())
+        const bool inEditor = button->parentWidget() == widget || !text.isEmpty();
+        if (button->text() == text && button->isVisible() && inEditor)
             return button;
     }
     return nullptr;

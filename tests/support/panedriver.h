@@ -29,8 +29,12 @@ public:
     QWidget *open(const QString &path);
     /// The editor that is open on a row.
     QWidget *editor(const QString &path) const;
-    /// Opens a row's editor and types \a text in place of its text.
-    void type(const QString &path, const QString &text);
+    /// Opens a row's editor and types \a text in place of its text; false where it has no line.
+    bool type(const QString &path, const QString &text);
+    /// The same by the clipboard, which takes any characters, and with Return at the end.
+    bool paste(const QString &path, const QString &text);
+    /// Gives an icon or one of its states the path of a file.
+    bool pastePath(const QString &path, const QString &file);
     /// Opens a row's editor and clicks its reset button.
     void reset(const QString &path);
     /// The button at the end of an open editor, and the one that offers another way to edit.
@@ -44,5 +48,7 @@ public:
         const std::function<void()> &action, const std::function<void(QWidget *)> &inDialog);
 
 private:
+    QToolButton *button(const QString &path, const QString &text) const;
+
     QTreeView *m_tree;
 };
