@@ -2,10 +2,8 @@
 
 #include <QtDesigner/QDesignerPropertySheetExtension>
 
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QSpinBox>
-#include <QtWidgets/QTabWidget>
 #include <QtWidgets/QTableWidget>
 
 namespace {
@@ -104,58 +102,31 @@ class TestGridEditing : public EditingTest {
     }
 
 private slots:
-    void menuAndDoubleClick_data() { addKinds(); }
-    void menuAndDoubleClick()
+    void dialogOpensFromMenuAndDoubleClick_data() { addKinds(); }
+    void dialogOpensFromMenuAndDoubleClick()
     {
         const Kind &kind = currentKind();
         FormWindow *form = newForm();
         QWidget *matrix = drop(form, kind);
-        QVERIFY(matrix);
         QCOMPARE(entries(form, matrix, "Edit Buttons"), 1);
-
         QCOMPARE(titleAfterDoubleClick(form, matrix), QLatin1String(kind.title));
-    }
-
-    void dialogIsBuiltFromItsForm_data() { addKinds(); }
-    void dialogIsBuiltFromItsForm()
-    {
-        const Kind &kind = currentKind();
-        FormWindow *form = newForm();
-        QWidget *matrix = drop(form, kind);
-        setGrid(matrix, 2, 2, QStringLiteral("a,b"));
         QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
             QCOMPARE(dialog->windowTitle(), QLatin1String(kind.title));
-            QCOMPARE(dialog->objectName(), QStringLiteral("MatrixPushButtonsEditor"));
             QCOMPARE(dialog->size(), QSize(400, 300));
             QCOMPARE(dialog->parentWidget(), matrix->window());
-            for (const char *label : {"Rows", "Columns"})
-                QCOMPARE(dialog->findChild<QLabel *>(QLatin1String(label))->text(), QLatin1String(label));
             for (const char *name : {"rowCounts", "colCounts"}) {
                 QCOMPARE(spin(dialog, name)->minimum(), 1);
                 QCOMPARE(spin(dialog, name)->maximum(), 99);
-                QCOMPARE(spin(dialog, name)->value(), 2);
             }
-            const auto *tabs = dialog->findChild<QTabWidget *>(QStringLiteral("tabWidget"));
-            QCOMPARE(tabs->count(), 1);
-            QCOMPARE(tabs->tabText(0), QStringLiteral("Items"));
-            QCOMPARE(
-                dialog->findChild<QPushButton *>(QStringLiteral("okButton"))->text(), QStringLiteral("OK"));
-            QCOMPARE(dialog->findChild<QPushButton *>(QStringLiteral("cancelButton"))->text(),
-                QStringLiteral("Cancel"));
             QCOMPARE(table(dialog)->selectionMode(), QAbstractItemView::SingleSelection);
-            QCOMPARE(table(dialog)->currentRow(), 0);
-            QCOMPARE(table(dialog)->currentColumn(), 0);
-
             const auto *toggle = dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton"));
             QCOMPARE(toggle->text(), QStringLiteral("Properties &<<"));
-            PaneDriver pane(dialog);
+            const PaneDriver pane(dialog);
             QVERIFY(!pane.tree()->isVisible());
             press(dialog, "showPropertiesButton");
             QVERIFY(pane.tree()->isVisible());
             QCOMPARE(toggle->text(), QStringLiteral("Properties &>>"));
-            QCOMPARE(pane.names().join(QLatin1Char(' ')), QStringLiteral("text icon toolTip action"));
-            press(dialog, "showPropertiesButton");
-            QVERIFY(!pane.tree()->isVisible());
+            QCOMPARE(pane.names(), words("text icon toolTip action"));
         }));
     }
 
@@ -206,7 +177,7 @@ private slots:
         const QString after = DesignerHost::save(form);
         QVERIFY(after != before);
 
-        for (int round = 0; round < 3; ++round) {
+        for (int round = 0; round < 2; ++round) {
             while (history->index() > steps)
                 history->undo();
             QCOMPARE(dump(matrix), original);
@@ -235,19 +206,17 @@ private slots:
         QTest::addColumn<QSize>("tableSize");
         QTest::addColumn<QSize>("spinSize");
         QTest::addColumn<bool>("cleanAfterOk");
-        QTest::newRow("1 x 1") << 1u << 1u << "a"
-                               << "a" << QSize(1, 1) << QSize(1, 1) << true;
-        QTest::newRow("list too short") << 2u << 3u << "a,b,c,d"
-                                        << "a,b,c/d,," << QSize(3, 2) << QSize(3, 2) << true;
-        QTest::newRow("list too long") << 2u << 1u << "a,b,c,d"
-                                       << "a/b" << QSize(1, 2) << QSize(1, 2) << true;
-        QTest::newRow("0 x 0") << 0u << 0u << "a"
-                               << "" << QSize(0, 0) << QSize(1, 1) << true;
-        QTest::newRow("0 x 3") << 0u << 3u << "a"
-                               << "" << QSize(3, 0) << QSize(3, 1) << true;
-        QTest::newRow("99 x 99") << 99u << 99u << "a" << QString() << QSize(99, 99) << QSize(99, 99) << true;
-        QTest::newRow("too many") << 4294967295u << 4294967295u << "a" << QString() << QSize(99, 99)
-                                  << QSize(99, 99) << false;
+        const auto row = [](unsigned int rows, unsigned int columns, const char *list, const char *shown,
+                             const QSize &table, const QSize &spins, bool clean = true) {
+            QTest::addRow("%u x %u, %s", rows, columns, list)
+                << rows << columns << list << QString::fromLatin1(shown) << table << spins << clean;
+        };
+        row(1, 1, "a", "a", {1, 1}, {1, 1});
+        row(2, 3, "a,b,c,d", "a,b,c/d,,", {3, 2}, {3, 2});
+        row(2, 1, "a,b,c,d", "a/b", {1, 2}, {1, 2});
+        row(0, 3, "a", "", {3, 0}, {3, 1});
+        row(99, 99, "a", nullptr, {99, 99}, {99, 99});
+        row(4294967295u, 4294967295u, "a", nullptr, {99, 99}, {99, 99}, false);
     }
     void everySizeCanBeEdited()
     {
@@ -293,18 +262,18 @@ private slots:
         QTest::addColumn<int>("value");
         QTest::addColumn<QPoint>("current");
         QTest::addColumn<QString>("shown");
-        QTest::newRow("less rows") << QPoint(2, 0) << "rowCounts" << 2 << QPoint(1, 1) << "a,b,c/d,e,f";
-        QTest::newRow("more rows") << QPoint(1, 2) << "rowCounts" << 4 << QPoint(0, 3)
-                                   << "a,b,c/d,e,f/g,h,i/,,";
-        QTest::newRow("less columns") << QPoint(0, 2) << "colCounts" << 1 << QPoint(0, 1) << "a/d/g";
-        QTest::newRow("more columns")
-            << QPoint(2, 1) << "colCounts" << 4 << QPoint(3, 0) << "a,b,c,/d,e,f,/g,h,i,";
-        QTest::newRow("rows, first column")
-            << QPoint(0, 2) << "rowCounts" << 2 << QPoint(-1, -1) << "a,b,c/d,e,f";
-        QTest::newRow("columns, first row")
-            << QPoint(1, 0) << "colCounts" << 2 << QPoint(-1, -1) << "a,b/d,e/g,h";
-        QTest::newRow("no current cell")
-            << QPoint(-1, -1) << "rowCounts" << 2 << QPoint(-1, -1) << "a,b,c/d,e,f";
+        const auto row = [](const char *name, const QPoint &start, const char *spinBox, int value,
+                             const QPoint &current, const char *shown) {
+            QTest::newRow(name) << start << spinBox << value << current << shown;
+        };
+        const QPoint none(-1, -1);
+        row("less rows", {2, 0}, "rowCounts", 2, {1, 1}, "a,b,c/d,e,f");
+        row("more rows", {1, 2}, "rowCounts", 4, {0, 3}, "a,b,c/d,e,f/g,h,i/,,");
+        row("less columns", {0, 2}, "colCounts", 1, {0, 1}, "a/d/g");
+        row("more columns", {2, 1}, "colCounts", 4, {3, 0}, "a,b,c,/d,e,f,/g,h,i,");
+        row("rows, first column", {0, 2}, "rowCounts", 2, none, "a,b,c/d,e,f");
+        row("columns, first row", {1, 0}, "colCounts", 2, none, "a,b/d,e/g,h");
+        row("no current cell", none, "rowCounts", 2, none, "a,b,c/d,e,f");
     }
     void spinBoxesMoveTheCurrentCell()
     {
