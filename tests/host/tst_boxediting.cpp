@@ -145,9 +145,9 @@ private slots:
         row("A B C", "-0", "p1:B[b1], p2:C[b2]");
         row("A", "-0", "");
         row("A B C", "-2 -1", "p1:A[b1]");
-        row("A B C", "-0 -0", "p1:C[b1]");
         row("A B C", "-0 -0 -0", "p1:B[b1]");
         row("A B C", "-2 +1", "p0:A[b0], p1:B[b1], p2:New Item[b2]");
+        row("A B C", "-2 +1 u2", "p0:A[b0], p2:New Item[b2], p1:B[b1]");
         row("A B C", "+2 -0", "p0:B[b0], p1:C[b1], p2:New Item[b2]");
         row("A B", "+1 + -0", "p0:B[b0], p1:New Item[b1], page:New Item[], page_2:test[]");
         row("A B C", "-0 -0 +0", "p1:C[b1]");

@@ -297,7 +297,10 @@ private slots:
                 QCOMPARE(pane.names().size(), current.x() < 0 ? 0 : 4);
                 table(dialog)->setCurrentCell(0, 0);
                 QCOMPARE(pane.names().size(), 4);
+                press(dialog, "okButton");
             }));
+            QCOMPARE(
+                matrix->property(spinBox == QLatin1String("rowCounts") ? "row" : "column").toInt(), value);
             close(form);
         }
     }
