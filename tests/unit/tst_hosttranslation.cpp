@@ -1,6 +1,7 @@
 #include "hostbase.h"
 #include "logwatch.h"
 #include "panedriver.h"
+#include "testdata.h"
 
 #include <propertyeditor/designerpropertymanager.h>
 #include <propertyeditor/hosttranslation.h>
@@ -10,7 +11,6 @@
 
 #include <private/qdesigner_utils_p.h>
 
-#include <QtTest/QtTest>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QTreeView>
 
@@ -63,9 +63,9 @@ private slots:
     void panesUseTheFunctionThatIsThereWhenTheyAreSetUp()
     {
         Editor editor;
-        QCOMPARE(editor.pane.names(), (QStringList{QStringLiteral("text"), QStringLiteral("toolTip")}));
+        QCOMPARE(editor.pane.names(), words("text toolTip"));
         registerFunction(inCapitals);
-        QCOMPARE(Editor().pane.names(), (QStringList{QStringLiteral("TEXT"), QStringLiteral("TOOLTIP")}));
+        QCOMPARE(Editor().pane.names(), words("TEXT TOOLTIP"));
         QCOMPARE(editor.pane.names().first(), QStringLiteral("text"));
         // The sub rows are Designer's own.
         QCOMPARE(Editor().pane.names(QStringLiteral("TEXT")).first(), QStringLiteral("translatable"));
@@ -75,7 +75,7 @@ private slots:
     {
         registerFunction(always);
         Editor editor;
-        QCOMPARE(editor.pane.names(), (QStringList{QStringLiteral("x"), QStringLiteral("x")}));
+        QCOMPARE(editor.pane.names(), words("x x"));
         QAbstractItemModel *model = editor.pane.tree()->model();
         const auto setRow = [model](int row, const QString &text) {
             model->setData(model->index(row, 1), QVariant::fromValue(PropertySheetStringValue(text)));
@@ -91,9 +91,8 @@ private slots:
     void sizePolicyNamesAreTranslatedOnce()
     {
         registerFunction(inCapitals);
-        const QStringList expected = {QStringLiteral("FIXED"), QStringLiteral("MINIMUM"),
-            QStringLiteral("MAXIMUM"), QStringLiteral("PREFERRED"), QStringLiteral("MINIMUMEXPANDING"),
-            QStringLiteral("EXPANDING"), QStringLiteral("IGNORED")};
+        const QStringList expected
+            = words("FIXED MINIMUM MAXIMUM PREFERRED MINIMUMEXPANDING EXPANDING IGNORED");
         QCOMPARE(SizePolicyNames::names(), expected);
         registerFunction(always);
         QCOMPARE(SizePolicyNames::names(), expected);

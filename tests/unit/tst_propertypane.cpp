@@ -1,4 +1,5 @@
 #include "panetest.h"
+#include "testdata.h"
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialog>
@@ -57,65 +58,51 @@ private slots:
         QVERIFY(!pane.moreButton(QStringLiteral("text/comment")));
     }
 
-    void textsMayHaveSeveralLines_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("value");
-        QTest::newRow("newline") << QStringLiteral("a\\nb") << QStringLiteral("a\nb");
-        QTest::newRow("backslash") << QStringLiteral("a\\\\b") << QStringLiteral("a\\b");
-        QTest::newRow("lone backslash") << QStringLiteral("a\\") << QStringLiteral("a\\");
-        QTest::newRow("quotes") << QStringLiteral("\"a\" & 'b' <c>") << QStringLiteral("\"a\" & 'b' <c>");
-    }
-
     void textsMayHaveSeveralLines()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, value);
-        m_pane->driver.type(text, typed);
-        QCOMPARE(m_pane->string(27).value(), value);
-        QCOMPARE(m_pane->item->text(), value);
-        QCOMPARE(m_pane->driver.lineEdit(text)->text(), typed);
+        const QPair<QString, QString> texts[] = {{QStringLiteral("a\\nb"), QStringLiteral("a\nb")},
+            {QStringLiteral("a\\\\b"), QStringLiteral("a\\b")},
+            {QStringLiteral("a\\"), QStringLiteral("a\\")},
+            {QStringLiteral("\"a\" & 'b' <c>"), QStringLiteral("\"a\" & 'b' <c>")}};
+        for (const auto &[typed, value] : texts) {
+            m_pane->driver.type(text, typed);
+            QCOMPARE(m_pane->string(27).value(), value);
+            QCOMPARE(m_pane->item->text(), value);
+            QCOMPARE(m_pane->driver.lineEdit(text)->text(), typed);
+        }
     }
 
     void textsAreEditedInADialog_data()
     {
         QTest::addColumn<QString>("row");
         QTest::addColumn<int>("role");
-        QTest::addColumn<QByteArray>("dialogClass");
         QTest::addColumn<bool>("accept");
-        const QByteArray plain = "qdesigner_internal::PlainTextEditorDialog",
-                         rich = "qdesigner_internal::RichTextEditorDialog";
-        QTest::newRow("plain text") << text << 27 << plain << true;
-        QTest::newRow("plain text, cancelled") << text << 27 << plain << false;
-        QTest::newRow("rich text") << toolTip << 29 << rich << true;
+        QTest::newRow("plain text") << text << 27 << true;
+        QTest::newRow("plain text, cancelled") << text << 27 << false;
+        QTest::newRow("rich text") << toolTip << 29 << true;
     }
 
     void textsAreEditedInADialog()
     {
         QFETCH(QString, row);
         QFETCH(int, role);
-        QFETCH(QByteArray, dialogClass);
         QFETCH(bool, accept);
         const QVariant before = m_pane->item->data(role);
         QVERIFY(m_pane->driver.open(row));
-        QString title;
         QVERIFY(PaneDriver::withDialog([&] { m_pane->driver.moreButton(row)->click(); },
             [&](QWidget *dialog) {
-                title = dialog->windowTitle();
-                QCOMPARE(QByteArray(dialog->metaObject()->className()), dialogClass);
-                if (auto *plain = dialog->findChild<QPlainTextEdit *>())
+                auto *plain = dialog->findChild<QPlainTextEdit *>(QString(), Qt::FindDirectChildrenOnly);
+                QCOMPARE(plain != nullptr, role == 27);
+                if (plain)
                     plain->setPlainText(QStringLiteral("one\ntwo"));
                 else
                     dialog->findChild<QTextEdit *>()->setPlainText(QStringLiteral("one\ntwo"));
                 qobject_cast<QDialog *>(dialog)->done(accept ? QDialog::Accepted : QDialog::Rejected);
             }));
-        QCOMPARE(title, QStringLiteral("Edit text"));
         if (accept)
             QCOMPARE(m_pane->string(role).value(), QStringLiteral("one\ntwo"));
         else
             QCOMPARE(m_pane->item->data(role), before);
-        m_pane->driver.open(QStringLiteral("statusTip"));
-        QVERIFY(!m_pane->driver.moreButton(QStringLiteral("statusTip")));
     }
 
     void sizePolicyIsEditedInItsSubRows()
@@ -129,8 +116,7 @@ private slots:
         QStringList names;
         for (int i = 0; i < policies->count(); ++i)
             names += policies->itemText(i);
-        QCOMPARE(names.join(QLatin1Char(' ')),
-            QStringLiteral("Fixed Minimum Maximum Preferred MinimumExpanding Expanding Ignored"));
+        QCOMPARE(names, words("Fixed Minimum Maximum Preferred MinimumExpanding Expanding Ignored"));
         policies->setCurrentIndex(4);
         pane.open(sizePolicy + QLatin1String("/Vertical Policy"))
             ->findChild<QComboBox *>()
