@@ -41,8 +41,8 @@ private:
     void dragTo(const QPoint &position);
     void mix(qreal hue, qreal saturation, qreal value);
 
-    QLineEdit *m_code;
     QColor m_color = Qt::black;
+    QLineEdit *m_code; ///< starts with the colour
     /// Kept apart from the colour: greys have no hue of their own and must not move the bar.
     qreal m_hue = 0;
     qreal m_saturation = 0;
