@@ -14,7 +14,7 @@ class SORREL_EXPORT Form : public QWidget {
 
 public:
     /// How the application's main window holds the panel.
-    enum Mode { Dockable, Floating, Modal };
+    enum Mode : int { Dockable, Floating, Modal };
     Q_ENUM(Mode)
 
     explicit Form(QWidget *parent = nullptr);

@@ -14,7 +14,8 @@ class SORREL_EXPORT LineType : public QWidget {
     Q_PROPERTY(Pattern pattern READ pattern WRITE setPattern NOTIFY patternChanged USER true)
 
 public:
-    enum Pattern { Continuous, Dashed, Dotted, DashDot, DashDotDot, Center, Phantom };
+    /// Any int may arrive through the property, hence the type.
+    enum Pattern : int { Continuous, Dashed, Dotted, DashDot, DashDotDot, Center, Phantom };
     Q_ENUM(Pattern)
 
     explicit LineType(QWidget *parent = nullptr);
