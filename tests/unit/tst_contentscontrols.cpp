@@ -1,18 +1,15 @@
-#include "logwatch.h"
 #include "testdata.h"
 
 #include <nui/Sorrel/SrLineEditEx.h>
 #include <nui/Sorrel/SrMatrixButtons.h>
 #include <nui/Sorrel/SrMatrixPopButtons.h>
-#include <nui/Sorrel/SrPane.h>
 #include <nui/Sorrel/template/SrOptionButtons.h>
 #include <nui/Sorrel/template/SrOptionComboBox.h>
 #include <nui/Sorrel/template/SrOptionRadios.h>
 
 #include <QtTest/QSignalSpy>
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
 
 #include <memory>
 #include <type_traits>
@@ -41,8 +38,6 @@ private slots:
     void buttonsAreLaidOut();
     void optionIsChosenByClickAndByIndex();
     void hugeListsMakeFewButtons();
-    void checkableComboBoxJoinsTheCheckedTexts();
-    void paneCollapsesToItsTitleBar();
 };
 
 void ContentsControls::signaturesAreThoseOfTheLibrary()
@@ -137,39 +132,6 @@ void ContentsControls::hugeListsMakeFewButtons()
     radios.updateGeomtries();
     QCOMPARE(radios.textList(), numbered(100000));
     QCOMPARE(radios.findChildren<QAbstractButton *>().size(), 1000);
-}
-
-void ContentsControls::checkableComboBoxJoinsTheCheckedTexts()
-{
-    LogWatch log;
-    CheckableTextComboBox comboBox;
-    comboBox.setItemTextList(words("a b c"));
-    for (int index : {2, 0, 7})
-        comboBox.setItemChecked(index, true);
-    QCOMPARE(comboBox.checkedTexts(), words("a c"));
-    comboBox.comboBox()->setCurrentIndex(1);
-    QCOMPARE(comboBox.comboBox()->currentText(), QStringLiteral("a; c"));
-    QCOMPARE(log.takeUnexpected(), QStringList());
-}
-
-void ContentsControls::paneCollapsesToItsTitleBar()
-{
-    QWidget panel;
-    auto *layout = new QVBoxLayout(&panel);
-    auto *pane = new Pane;
-    auto *field = new QPushButton;
-    (new QVBoxLayout(pane))->addWidget(field);
-    layout->addWidget(pane);
-    layout->addStretch();
-    panel.resize(200, 300);
-    panel.show();
-    QTRY_VERIFY(field->y() > 0 && field->geometry().bottom() < pane->height());
-    const int open = pane->height();
-    QTest::mouseClick(pane, Qt::LeftButton, {}, QPoint(20, 5));
-    QVERIFY(pane->isCollapsed());
-    QTRY_VERIFY(pane->height() < field->y());
-    QTest::mouseClick(pane, Qt::LeftButton, {}, QPoint(20, 5));
-    QTRY_COMPARE(pane->height(), open);
 }
 
 QTEST_MAIN(ContentsControls)

@@ -5,10 +5,6 @@
 
 #include <QtWidgets/QUndoStack>
 
-#include <functional>
-#include <map>
-#include <memory>
-
 namespace {
 
 using Ids = QVector<int>;
@@ -55,13 +51,8 @@ private slots:
         QTest::addColumn<Ids>("initial");
         QTest::addColumn<Ids>("current");
         QTest::addColumn<Ids>("expected");
-        QTest::newRow("rotated") << 3 << Ids{0, 1, 2} << Ids{2, 0, 1} << Ids{2, 0, 1};
         QTest::newRow("two between, upwards") << 2 << Ids{0, 1} << Ids{0, 3, 2, 1} << Ids{0, -2, -1, 1};
-        QTest::newRow("added and swapped") << 2 << Ids{0, 1} << Ids{1, 2, 0} << Ids{1, -1, 0};
-        QTest::newRow("one deleted, swapped") << 3 << Ids{0, 1, 2} << Ids{2, 0} << Ids{2, 0};
-        QTest::newRow("outer two deleted") << 3 << Ids{0, 1, 2} << Ids{1} << Ids{1};
         QTest::newRow("last two of four deleted") << 4 << Ids{0, 1, 2, 3} << Ids{0, 1} << Ids{1, 2};
-        QTest::newRow("two deleted, one added") << 3 << Ids{0, 1, 2} << Ids{2, 3} << Ids{1};
         QTest::newRow("far ids") << 1 << Ids{0} << Ids{0, 2147483647} << Ids{0, -1};
         QTest::newRow("negative ids") << 1 << Ids{0} << Ids{-5, 0} << Ids{0, -1};
         QTest::newRow("less boxes than ids") << 1 << Ids{0, 1, 2} << Ids{2, 1, 0} << Ids{0};
@@ -105,62 +96,10 @@ private slots:
         box->setParent(nullptr);
         other = DrawbackBoxHold(nullptr);
         QVERIFY(!box);
-    }
 
-    /// Boxes live as long as the group or an undo step has them, whatever happens in which order.
-    void boxesLiveAsLongAsTheyCanComeBack_data()
-    {
-        QTest::addColumn<QString>("steps");
-        QTest::addColumn<bool>("firstLives");
-        QTest::addColumn<bool>("addedLives");
-        // u undo, r redo, c clear the stack, n push another step, g delete the group, b delete the added box
-        QTest::newRow("pushed") << "" << true << true;
-        QTest::newRow("undone") << "u" << true << true;
-        QTest::newRow("undone and redone") << "urururuur" << true << true;
-        QTest::newRow("cleared") << "c" << false << true;
-        QTest::newRow("undone and cleared") << "uuc" << true << false;
-        QTest::newRow("undone and overwritten") << "uun" << true << false;
-        QTest::newRow("group first") << "g" << true << false;
-        QTest::newRow("group first, then all") << "guurrc" << false << false;
-        QTest::newRow("undone, group, clear") << "uugc" << false << false;
-        QTest::newRow("box deleted by others") << "buurr" << true << false;
-    }
-    void boxesLiveAsLongAsTheyCanComeBack()
-    {
-        QFETCH(QString, steps);
-        auto group = std::make_unique<Vexa::DrawbackBoxGroup>();
-        addPage(group.get(), "A");
-        const QPointer<Vexa::DrawbackBox> first = group->box(0);
-        QPointer<Vexa::DrawbackBox> added;
-        QUndoStack stack;
-        {
-            DrawbackBoxContents contents = DrawbackBoxContents::fromDrawbackBoxGroup(group.get());
-            contents.boxes.append(newBox());
-            contents.items.append(ItemData());
-            contents.items[1].setText(27, QStringLiteral("B"));
-            added = contents.boxes[1].box();
-            push(&stack, group.get(), contents);
-            QCOMPARE(titles(*group), words("A B"));
-            contents.boxes.removeFirst();
-            contents.items.removeFirst();
-            push(&stack, group.get(), contents);
-            QCOMPARE(titles(*group), words("B"));
-        }
-        const std::map<char, std::function<void()>> actions{
-            {'u', [&] { stack.undo(); }},
-            {'r', [&] { stack.redo(); }},
-            {'c', [&] { stack.clear(); }},
-            {'n', [&] { push(&stack, group.get(), DrawbackBoxContents::fromDrawbackBoxGroup(group.get())); }},
-            {'g', [&] { group.reset(); }},
-            {'b', [&] { delete added; }},
-        };
-        for (const QChar step : qAsConst(steps))
-            actions.at(step.toLatin1())();
-        QTEST(!first.isNull(), "firstLives");
-        QTEST(!added.isNull(), "addedLives");
-        group.reset();
-        stack.clear();
-        QVERIFY(!first && !added);
+        hold = newBox();
+        delete hold.box();
+        QVERIFY(!hold.box());
     }
 
     /// The other way round is no harm: a page without a title keeps its own.

@@ -2,13 +2,9 @@
 
 #include <nui/Sorrel/SrComboBox.h>
 #include <nui/Sorrel/SrFormBuilder.h>
-#include <nui/Sorrel/SrLineEditEx.h>
 #include <nui/Sorrel/SrMatrixButtons.h>
 #include <nui/Sorrel/SrMatrixPopButtons.h>
 #include <nui/Sorrel/template/SrOptionButtons.h>
-#include <nui/Sorrel/template/SrOptionCheckBox.h>
-#include <nui/Sorrel/template/SrOptionComboBox.h>
-#include <nui/Sorrel/template/SrOptionRadios.h>
 
 #include <private/ui4_p.h>
 
@@ -73,59 +69,12 @@ class FormBuilders : public QObject {
     Q_OBJECT
 
 private slots:
-    void contentsSurvive_data();
-    void contentsSurvive();
     void savedTextIs_data();
     void savedTextIs();
     void actionsOfItemsWithoutElementsKeepTheirPlace();
-    void foreignDataIsSkipped_data();
-    void foreignDataIsSkipped();
     void millionItemsAreRead();
     void otherWidgetsAndNullAreLeftAlone();
 };
-
-void FormBuilders::contentsSurvive_data()
-{
-    QTest::addColumn<Maker>("create");
-    QTest::addColumn<QStringList>("lists");
-    addControls<OptionButtons, OptionRadios, OptionComboBox, OptionCheckBox>(
-        words("textList iconList toolTips dataList"));
-    addControls<MatrixPushButtons, MatrixRadioButtons, MatrixCheckBoxes, MatrixPopButtons>(
-        words("textList iconList toolTips actionList"));
-    addControl<CheckableTextComboBox>(words("itemTextList toolTips"));
-    addControl<Vexa::ComboBox>(words("actionList"));
-}
-
-void FormBuilders::contentsSurvive()
-{
-    QFETCH(Maker, create);
-    QFETCH(QStringList, lists);
-    const std::unique_ptr<QWidget> control(create());
-    QCOMPARE(save(control.get()), QString());
-
-    const bool isGrid = control->metaObject()->indexOfProperty("row") >= 0;
-    if (isGrid) {
-        control->setProperty("row", 0u);
-        control->setProperty("column", 7u);
-    }
-    // Of different lengths, the last one the longest, with empty values and one that XML has to escape.
-    QStringList values{QString(), QStringLiteral("<a> & \"b\""), QString()};
-    for (const QString &name : qAsConst(lists)) {
-        control->setProperty(name.toLatin1(), values);
-        values += QString();
-    }
-    for (const QString &name : qAsConst(lists))
-        QCOMPARE(control->property(name.toLatin1()).toStringList().value(1), values.at(1));
-    const QString saved = save(control.get());
-
-    const std::unique_ptr<QWidget> loaded(create());
-    load(loaded.get(), saved);
-    for (const QString &name : qAsConst(lists))
-        QCOMPARE(loaded->property(name.toLatin1()), control->property(name.toLatin1()));
-    QCOMPARE(loaded->property("row"), control->property("row"));
-    QCOMPARE(loaded->property("column"), control->property("column"));
-    QCOMPARE(save(loaded.get()), saved);
-}
 
 void FormBuilders::savedTextIs_data()
 {
@@ -189,38 +138,6 @@ void FormBuilders::actionsOfItemsWithoutElementsKeepTheirPlace()
     comboBox.setActionList(words("1 2 3 4"));
     QCOMPARE(save(&comboBox, item(a) + item(a) + item(a)),
         list("actionList", "1 2 3 4") + item(a) + item(a) + item(a));
-}
-
-void FormBuilders::foreignDataIsSkipped_data()
-{
-    QTest::addColumn<QString>("inside");
-    QTest::addColumn<QStringList>("texts");
-    QTest::addColumn<QStringList>("data");
-    const QString b = value(itemText, "text", "b");
-    QTest::newRow("hole") << item(QString()) + item(b) << QStringList{QString(), QStringLiteral("b")}
-                          << QStringList();
-    QTest::newRow("number") << item(QStringLiteral("<property name=\"data\"><number>4</number></property>"))
-                            << words("before") << words("4");
-    QTest::newRow("list of a wrong kind")
-        << QStringLiteral("<property name=\"textList\"><number>3</number></property>") + item(b)
-        << words("before") << QStringList();
-}
-
-void FormBuilders::foreignDataIsSkipped()
-{
-    QFETCH(QString, inside);
-    OptionCheckBox option;
-    option.setTextList(words("before"));
-    load(&option, inside);
-    QTEST(option.textList(), "texts");
-    QTEST(option.dataList(), "data");
-
-    MatrixPushButtons grid;
-    load(&grid,
-        inside + QStringLiteral("<property name=\"row\"><string>x</string></property>")
-            + QStringLiteral("<property name=\"column\"><number>-3</number></property>"));
-    QCOMPARE(grid.row(), 2u);
-    QCOMPARE(grid.column(), unsigned(-3));
 }
 
 void FormBuilders::millionItemsAreRead()

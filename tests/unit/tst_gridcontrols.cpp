@@ -4,7 +4,6 @@
 #include <nui/Sorrel/SrMatrixPopButtons.h>
 
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QSignalSpy>
 #include <QtWidgets/QAbstractButton>
 
 using namespace Vexa;
@@ -16,9 +15,7 @@ private slots:
     void gridIsRowMajor();
     void gridReportsWhatWasSetAndMakesAtMost99By99_data();
     void gridReportsWhatWasSetAndMakesAtMost99By99();
-    void gridKeepsItsButtonsAndChecksOverChanges();
     void iconThatArrivesAfterTheControlIsShown();
-    void clickedGridButtonTriggersItsAction();
 };
 
 void GridControls::gridIsRowMajor()
@@ -80,27 +77,6 @@ void GridControls::gridReportsWhatWasSetAndMakesAtMost99By99()
     QVERIFY(grid.minimumSizeHint().width() < 400);
 }
 
-void GridControls::gridKeepsItsButtonsAndChecksOverChanges()
-{
-    MatrixCheckBoxes grid;
-    grid.setTextList(words("a b c d"));
-    QPointer<QAbstractButton> button = grid.button(1);
-    button->setChecked(true);
-    grid.setTextList({});
-    grid.setTextList(words("a x c d"));
-    QCOMPARE(grid.button(1), button.data());
-    QCOMPARE(button->text(), QStringLiteral("x"));
-    QVERIFY(button->isChecked());
-
-    grid.setRow(1);
-    grid.setColumn(1);
-    QVERIFY(!grid.button(1));
-    QVERIFY(!button);
-    grid.setColumn(2);
-    grid.show();
-    QTRY_VERIFY(grid.button(1)->isVisible() && grid.button(1)->x() > 0);
-}
-
 void GridControls::iconThatArrivesAfterTheControlIsShown()
 {
     QTemporaryDir folder;
@@ -115,23 +91,6 @@ void GridControls::iconThatArrivesAfterTheControlIsShown()
     QVERIFY(QFile::remove(path));
     grid.setTextList(grid.textList());
     QVERIFY(grid.button(0)->icon().isNull());
-}
-
-void GridControls::clickedGridButtonTriggersItsAction()
-{
-    MatrixPopButtons grid;
-    grid.setTextList(words("a b"));
-    grid.setActionList(words("open close"));
-    grid.updateGeomtries();
-    QSignalSpy clicked(&grid, &MatrixPopButtons::buttonClicked);
-    QSignalSpy triggered(&grid, &MatrixPopButtons::actionTriggered);
-    const QList<QAbstractButton *> buttons = grid.findChildren<QAbstractButton *>();
-    buttons.at(1)->click();
-    buttons.at(3)->click();
-    QCOMPARE(clicked.size(), 2);
-    QCOMPARE(clicked.at(1).at(0).toInt(), 3);
-    QCOMPARE(triggered.size(), 1);
-    QCOMPARE(triggered.at(0).at(0).toString(), QStringLiteral("close"));
 }
 
 QTEST_MAIN(GridControls)
