@@ -31,10 +31,8 @@ class DrawbackBoxGroups : public QObject {
 
 private slots:
     void init();
-    void pagesAreTitledByTheirWindows();
     void indexFollowsItsPage_data();
     void indexFollowsItsPage();
-    void onlyRealChangesAreSignalled();
     void indexSetBeforeThePagesIsAwaited();
     void clickShowsOnlyItsPage();
     void removedPageComesBackInItsBox();
@@ -53,20 +51,6 @@ void DrawbackBoxGroups::init()
     m_group->resize(300, 400);
     for (const char *title : {"a", "b", "c"})
         QVERIFY(QMetaObject::invokeMethod(m_group.get(), "addPage", Q_ARG(QWidget *, page(title))));
-}
-
-void DrawbackBoxGroups::pagesAreTitledByTheirWindows()
-{
-    QCOMPARE(titles(*m_group), QStringLiteral("abc"));
-    QSignalSpy changed(m_group.get(), &DrawbackBoxGroup::pageTitleChanged);
-    m_group->setPageTitle(QStringLiteral("A"));
-    m_group->setPageTitle(QStringLiteral("A"));
-    m_group->widget(1)->setWindowTitle(QStringLiteral("B"));
-    QCOMPARE(titles(*m_group), QStringLiteral("ABc"));
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.at(0).at(0).toString(), QStringLiteral("A"));
-    QCOMPARE(m_group->pageTitle(3), QString());
-    QVERIFY(!m_group->widget(-1) && !m_group->box(3));
 }
 
 void DrawbackBoxGroups::indexFollowsItsPage_data()
@@ -103,22 +87,6 @@ void DrawbackBoxGroups::indexFollowsItsPage()
     QTEST(m_group->currentIndex(), "expectedCurrent");
     QTEST(changed.size(), "expectedSignals");
     QVERIFY(m_group->box(m_group->currentIndex())->isExpanded());
-}
-
-void DrawbackBoxGroups::onlyRealChangesAreSignalled()
-{
-    QSignalSpy changed(m_group.get(), &DrawbackBoxGroup::currentIndexChanged);
-    for (int index : {0, -1, 3, 2, 2})
-        m_group->setCurrentIndex(index);
-    m_group->addPage(nullptr);
-    m_group->addPage(m_group->widget(1));
-    QCOMPARE(titles(*m_group), QStringLiteral("abc"));
-    QCOMPARE(changed.size(), 1);
-    QCOMPARE(changed.at(0).at(0).toInt(), 2);
-    for (int i = 0; i < 3; ++i)
-        m_group->removePage(0);
-    QCOMPARE(m_group->currentIndex(), -1);
-    QCOMPARE(changed.last().at(0).toInt(), -1);
 }
 
 void DrawbackBoxGroups::indexSetBeforeThePagesIsAwaited()

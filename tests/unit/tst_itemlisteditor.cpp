@@ -299,19 +299,6 @@ private slots:
         m_host->closeForm(form);
     }
 
-    void formThatClosesTakesItsCacheAway()
-    {
-        FormWindowBase *form = m_host->newForm();
-        Editor editor(1, form);
-        editor.showPane();
-        editor.pane.open(QStringLiteral("icon"));
-        m_host->closeForm(form);
-        QTRY_COMPARE(editor.widget.iconCache(), static_cast<DesignerIconCache *>(nullptr));
-        editor.pane.type(QStringLiteral("text"), QStringLiteral("x"));
-        editor.pane.tree()->grab();
-        QCOMPARE(editor.list->item(0)->text(), QStringLiteral("x"));
-    }
-
 private:
     std::unique_ptr<LogWatch> m_log;
     std::unique_ptr<DesignerHost> m_host;

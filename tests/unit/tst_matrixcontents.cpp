@@ -13,19 +13,6 @@ namespace {
 
 constexpr unsigned int huge = 4294967295u;
 
-/// The cells as "row,column=text icon tip action", with "-" for what is missing.
-QString dump(const MatrixContents &contents)
-{
-    QStringList cells;
-    for (auto it = contents.items.cbegin(); it != contents.items.cend(); ++it) {
-        QStringList fields{it->text(27), it->iconPath(), it->text(29), it->text(257)};
-        fields.replaceInStrings(QRegularExpression(QStringLiteral("^$")), QStringLiteral("-"));
-        cells += QStringLiteral("%1,%2=").arg(it.key().first).arg(it.key().second)
-            + fields.join(QLatin1Char(' '));
-    }
-    return cells.join(QLatin1String("; "));
-}
-
 ItemData cell(const char *text, const char *icon = "", const char *toolTip = "", const char *action = "")
 {
     ItemData data;
@@ -84,44 +71,6 @@ class tst_MatrixContents : public QObject {
     Q_OBJECT
 
 private slots:
-    void readsRowByRow_data()
-    {
-        QTest::addColumn<unsigned int>("rows");
-        QTest::addColumn<unsigned int>("columns");
-        QTest::addColumn<QStringList>("texts");
-        QTest::addColumn<QStringList>("toolTips");
-        QTest::addColumn<QString>("expected");
-        const auto row = [](unsigned int rows, unsigned int columns, const char *texts, const char *toolTips,
-                             const char *expected) {
-            QTest::addRow("%u x %u, %s, %s", rows, columns, texts, toolTips)
-                << rows << columns << words(texts) << words(toolTips) << expected;
-        };
-        row(2, 2, "a b c", "", "0,0=a - - -; 0,1=b - - -; 1,0=c - - -; 1,1=- - - -");
-        row(1, 3, "a", "x y z", "0,0=a - x -; 0,1=- - y -; 0,2=- - z -");
-        row(1, 1, "a b c", "x y", "0,0=a - x -");
-        row(0, 3, "a b", "", "");
-        row(3, 0, "a b", "", "");
-    }
-    void readsRowByRow()
-    {
-        QFETCH(unsigned int, rows);
-        QFETCH(unsigned int, columns);
-        QFETCH(QStringList, texts);
-        QFETCH(QStringList, toolTips);
-        QFETCH(QString, expected);
-        const std::array<QStringList, 4> values{texts, {}, toolTips, {}};
-        Vexa::MatrixPushButtons push;
-        setLists(push, rows, columns, values);
-        Vexa::MatrixPopButtons pop;
-        setLists(pop, rows, columns, values);
-        for (const MatrixContents &contents :
-            {MatrixContents::fromMatrixButtons(&push), MatrixContents::fromMatrixPopButtons(&pop)}) {
-            QCOMPARE(contents.rowCount, int(rows));
-            QCOMPARE(contents.columnCount, int(columns));
-            QCOMPARE(dump(contents), expected);
-        }
-    }
-
     /// Nothing hangs or grows without bound, nothing is lost by an undo of an edit, and the table stays
     /// editable.
     void foreignSizes_data()
@@ -247,6 +196,20 @@ private slots:
         table.item(98, 98)->setText(QStringLiteral("shown only"));
         contents.items[{4, 4}] = ItemData();
         QVERIFY(MatrixContents::fromTableWidget(&table, true) == contents);
+    }
+
+    void listsOfUnequalLengthAreReadRowByRow()
+    {
+        const std::array<QStringList, 4> lists{words("a b c"), {}, words("1 2 3 4 too many"), {}};
+        const MatrixContents expected = grid(2, 2,
+            {{{0, 0}, cell("a", "", "1")}, {{0, 1}, cell("b", "", "2")}, {{1, 0}, cell("c", "", "3")},
+                {{1, 1}, cell("", "", "4")}});
+        Vexa::MatrixPushButtons push;
+        setLists(push, 2, 2, lists);
+        QVERIFY(MatrixContents::fromMatrixButtons(&push) == expected);
+        Vexa::MatrixPopButtons pop;
+        setLists(pop, 2, 2, lists);
+        QVERIFY(MatrixContents::fromMatrixPopButtons(&pop) == expected);
     }
 
     void equality()

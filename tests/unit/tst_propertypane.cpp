@@ -166,23 +166,6 @@ private slots:
             QVERIFY(m_pane->tree()->hasFocus());
         }
     }
-
-    void mouseOpensEditorsOfValuesOnly()
-    {
-        PaneDriver &pane = m_pane->driver;
-        const QModelIndex name = pane.value(text).siblingAtColumn(0);
-        QTest::mouseClick(
-            m_pane->tree()->viewport(), Qt::LeftButton, {}, m_pane->tree()->visualRect(name).center());
-        QVERIFY(!pane.editor(text));
-        QCOMPARE(m_pane->tree()->currentIndex(), name);
-        QVERIFY(pane.open(text));
-        QTest::keyClick(pane.lineEdit(text), Qt::Key_Tab);
-        QVERIFY(pane.moreButton(text)->hasFocus());
-        QVERIFY(pane.open(toolTip));
-        QVERIFY(!pane.editor(text));
-        const QRect cell = m_pane->tree()->visualRect(pane.value(toolTip));
-        QCOMPARE(pane.editor(toolTip)->geometry(), cell.adjusted(0, 0, 0, -1));
-    }
 };
 
 QTEST_MAIN(PropertyPaneTest)
