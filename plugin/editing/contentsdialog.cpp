@@ -5,6 +5,21 @@
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
+namespace {
+
+/// What a list can show.
+ListContents withoutEmptyEntries(ListContents contents)
+{
+    const auto isEmpty = [](const ItemData &entry) { return entry.isEmpty(); };
+    if (std::any_of(contents.cbegin(), contents.cend(), isEmpty))
+        contents.erase(std::remove_if(contents.begin(), contents.end(), isEmpty), contents.end());
+    return contents;
+}
+
+} // namespace
+
 ContentsDialog::ContentsDialog(
     const QString &newItemText, QDesignerFormWindowInterface *form, QWidget *parent)
     : QDialog(parent)
@@ -33,14 +48,23 @@ ListContents ContentsDialog::load(const QString &title, const ListContents &cont
     const qdesigner_internal::AbstractItemEditor::PropertyDefinition *properties)
 {
     setWindowTitle(title);
-    m_loaded = contents;
-    applyToListWidget(contents, m_editor->listWidget(), m_editor->iconCache(), true);
+    QListWidget *list = m_editor->listWidget();
+    m_loaded = withoutEmptyEntries(contents);
+    applyToListWidget(m_loaded, list, m_editor->iconCache(), true);
     m_editor->setupEditor(control, properties);
+    for (const char *signal : {SIGNAL(dataChanged(QModelIndex, QModelIndex, QVector<int>)),
+             SIGNAL(rowsInserted(QModelIndex, int, int)), SIGNAL(rowsRemoved(QModelIndex, int, int)),
+             SIGNAL(rowsMoved(QModelIndex, int, int, QModelIndex, int)), SIGNAL(layoutChanged()),
+             SIGNAL(modelReset())})
+        connect(list->model(), signal, this, SLOT(noteChange()));
     return contents;
 }
 
 ListContents ContentsDialog::contents() const
 {
+    // Most dialogs are closed as they were opened: that takes no time then, however long the list is.
+    if (!m_changed)
+        return m_loaded;
     ListContents contents = fromListWidget(m_editor->listWidget(), true);
     shareEqualEntries(&contents, m_loaded);
     return contents;

@@ -8,6 +8,7 @@
 /// The frame of the dialogs that edit list contents: the item list editor above a separator line, Ok and
 /// Cancel. Every dialog class is its own translation context and passes its texts in.
 class ContentsDialog : public QDialog {
+    Q_OBJECT
 public:
     /// The rows of the list: what was loaded, as the user changed it.
     ListContents contents() const;
@@ -23,7 +24,11 @@ protected:
 
     qdesigner_internal::ItemListEditor *itemListEditor() const { return m_editor; }
 
+private slots:
+    void noteChange() { m_changed = true; }
+
 private:
     qdesigner_internal::ItemListEditor *const m_editor;
-    ListContents m_loaded;
+    ListContents m_loaded; // what the list shows as long as nothing was changed
+    bool m_changed = false;
 };

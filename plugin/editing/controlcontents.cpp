@@ -8,6 +8,8 @@
 
 #include <private/qdesigner_utils_p.h>
 
+#include <QtGui/QStandardItemModel>
+
 #include <algorithm>
 #include <array>
 
@@ -86,6 +88,38 @@ void writeLists(
     }
 }
 
+/// Belongs to the caller.
+QStandardItem *makeItem(const ItemData &entry, qdesigner_internal::DesignerIconCache *iconCache)
+{
+    auto *item = new QStandardItem(entry.text(ItemRole::Text));
+    const QVariant text = entry.value(ItemRole::Text);
+    if (text.isValid())
+        item->setData(text, ItemRole::Text);
+    const QVariant icon = entry.value(ItemRole::Icon);
+    if (icon.isValid()) {
+        item->setData(icon, ItemRole::Icon);
+        if (iconCache)
+            item->setIcon(iconCache->icon(qvariant_cast<qdesigner_internal::PropertySheetIconValue>(icon)));
+    }
+    return item;
+}
+
+/// Appends \a items, which then belong to the combo box.
+void addItems(const QList<QStandardItem *> &items, QComboBox *comboBox)
+{
+    if (auto *model = qobject_cast<QStandardItemModel *>(comboBox->model())) {
+        // In one go, as the combo box follows every single item with its view and its size.
+        model->invisibleRootItem()->appendRows(items);
+        return;
+    }
+    for (const QStandardItem *item : items) {
+        comboBox->addItem(item->icon(), item->text());
+        for (const int role : {int(ItemRole::Text), int(ItemRole::Icon)})
+            comboBox->setItemData(comboBox->count() - 1, item->data(role), role);
+        delete item;
+    }
+}
+
 } // namespace
 
 ListContents fromComboBox(Vexa::ComboBox *comboBox)
@@ -118,20 +152,15 @@ void applyToComboBox(
     if (!comboBox)
         return;
     comboBox->clear();
+    QList<QStandardItem *> items;
+    items.reserve(contents.size());
     QStringList actions;
     actions.reserve(contents.size());
     for (const ItemData &entry : contents) {
-        const QVariant iconValue = entry.value(ItemRole::Icon);
-        QIcon icon;
-        if (iconCache && iconValue.isValid())
-            icon = iconCache->icon(qvariant_cast<qdesigner_internal::PropertySheetIconValue>(iconValue));
-        comboBox->addItem(icon, entry.text(ItemRole::Text), QVariant());
-        const int index = comboBox->count() - 1;
-        comboBox->setItemData(index, entry.value(ItemRole::Text), ItemRole::Text);
-        if (iconValue.isValid())
-            comboBox->setItemData(index, iconValue, ItemRole::Icon);
+        items.append(makeItem(entry, iconCache));
         actions.append(entry.text(ItemRole::Action));
     }
+    addItems(items, comboBox);
     comboBox->setActionList(actions);
 }
 

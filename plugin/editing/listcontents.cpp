@@ -1,5 +1,6 @@
 #include "listcontents.h"
 
+#include <QtCore/QSignalBlocker>
 #include <QtWidgets/QListWidget>
 
 #include <algorithm>
@@ -8,14 +9,18 @@ void applyToListWidget(const ListContents &contents, QListWidget *listWidget,
     qdesigner_internal::DesignerIconCache *iconCache, bool editor)
 {
     listWidget->clear();
-    for (const ItemData &entry : contents) {
-        if (entry.isEmpty())
-            continue;
-        // Filled before the list knows it and would have to hear of every role; the list then owns it.
-        auto item = new QListWidgetItem;
-        entry.fill(item, iconCache, editor);
-        listWidget->addItem(item);
+    {
+        // The view would look at every row on its own.
+        const QSignalBlocker blocker(listWidget->model());
+        for (const ItemData &entry : contents) {
+            if (entry.isEmpty())
+                continue;
+            auto item = new QListWidgetItem; // belongs to the list
+            entry.fill(item, iconCache, editor);
+            listWidget->addItem(item);
+        }
     }
+    listWidget->reset();
 }
 
 ListContents fromListWidget(const QListWidget *listWidget, bool editor)
