@@ -30,6 +30,21 @@ bool ExtraInfoExtension::loadWidgetExtraInfo(DomWidget *ui_widget)
     return true;
 }
 
+QObject *ExtraInfoExtensionFactory::extension(QObject *object, const QString &iid) const
+{
+    if (!object)
+        return nullptr;
+    const auto it = m_known.constFind(object);
+    // Another object may live where a deleted one lived.
+    if (it != m_known.cend() && it->object && it->extension
+        && iid == QLatin1String("org.qt-project.Qt.Designer.ExtraInfo.2"))
+        return it->extension;
+    QObject *extension = createExtension(object, iid, nullptr);
+    if (extension)
+        m_known.insert(object, {object, extension});
+    return extension;
+}
+
 QObject *ExtraInfoExtensionFactory::createExtension(QObject *object, const QString &iid, QObject *) const
 {
     if (iid != QLatin1String("org.qt-project.Qt.Designer.ExtraInfo.2") || !object->isWidgetType())

@@ -3,6 +3,9 @@
 #include <QtDesigner/QDesignerExtraInfoExtension>
 #include <QtDesigner/QExtensionFactory>
 
+#include <QtCore/QHash>
+#include <QtCore/QPointer>
+
 class ExtraInfoExtensionFactory;
 class QDesignerFormEditorInterface;
 
@@ -33,7 +36,19 @@ public:
 
     QDesignerFormEditorInterface *m_core = nullptr;
 
+    /// The extension of a living widget is always the same. It is remembered here because the base class
+    /// would follow widget and extension by signals, which takes three times the memory of the extension for
+    /// every widget of every form.
+    QObject *extension(QObject *object, const QString &iid) const override;
+
 protected:
     /// The extension has no parent: it belongs to nobody and lasts for the rest of the run, one per widget.
     QObject *createExtension(QObject *object, const QString &iid, QObject *parent) const override;
+
+private:
+    struct Known {
+        QPointer<QObject> object;
+        QPointer<QObject> extension;
+    };
+    mutable QHash<const QObject *, Known> m_known;
 };

@@ -137,6 +137,19 @@ private slots:
         QVERIFY(extension->saveUiExtraInfo(nullptr));
         QVERIFY(extension->loadUiExtraInfo(nullptr));
         QVERIFY(!qt_extension<QDesignerExtraInfoExtension *>(manager, m_host->core()));
+        QCOMPARE(qt_extension<QDesignerExtraInfoExtension *>(manager, button), extension);
+        // What lives where a deleted widget lived is another widget.
+        alignas(QWidget) char memory[sizeof(QWidget)];
+        for (const char *name : {"first", "second"}) {
+            auto *widget = new (memory) QWidget;
+            widget->setObjectName(QLatin1String(name));
+            auto *ofWidget
+                = manager->extension(widget, QStringLiteral("org.qt-project.Qt.Designer.ExtraInfo.2"));
+            QVERIFY(ofWidget);
+            QVERIFY(ofWidget->property("served").isNull());
+            ofWidget->setProperty("served", true);
+            widget->~QWidget();
+        }
         const QString saved = DesignerHost::save(form);
         compareTexts(reopened(saved), saved);
     }
