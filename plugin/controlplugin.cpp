@@ -25,14 +25,15 @@ void reapplyMatrixTexts(QObject *object)
 {
     if (!object)
         return;
-    if (isOfClass(object, "Vexa::MatrixPushButtons")) {
+    if (object->isWidgetType() && isOfClass(object, "Vexa::MatrixPushButtons")) {
         auto *matrix
             = static_cast<Vexa::AbstractMatrixOptions *>(static_cast<Vexa::MatrixPushButtons *>(object));
         matrix->setTextList(matrix->textList());
     }
-    const QObjectList children = object->children();
-    for (QObject *child : children)
-        reapplyMatrixTexts(child);
+    // Runs over the whole form once per matrix ever made, so it makes no copy of each list of children.
+    const QObjectList &children = object->children();
+    for (int i = 0; i < children.size(); ++i)
+        reapplyMatrixTexts(children.at(i));
 }
 
 } // namespace

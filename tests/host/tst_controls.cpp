@@ -156,6 +156,16 @@ private slots:
         QCOMPARE(matrices.at(1)->button(0)->text(), QStringLiteral("altered"));
         QCOMPARE(matrices.at(2)->button(0)->text(), QStringLiteral("altered"));
     }
+
+    void controlsCanBeMadeInTheNextFormEditor()
+    {
+        // The plugin is loaded once in a process and was initialized with the form editor that is gone then.
+        const QStringList libraryPaths{QStringLiteral(PLUGIN_ROOT)};
+        m_host.reset();
+        m_host = std::make_unique<DesignerHost>(libraryPaths);
+        for (const char *control : {"CheckableTextComboBox", "MatrixPushButtons", "ComboBox"})
+            QVERIFY(m_host->drop(newForm(), className(control), QPoint(20, 20)));
+    }
 };
 
 QTEST_MAIN(TestControls)
