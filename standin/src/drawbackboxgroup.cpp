@@ -181,6 +181,8 @@ int DrawbackBoxGroup::replaceBoxes(QList<Vexa::DrawbackBox *> boxes)
 void DrawbackBoxGroup::adopt(DrawbackBox *box)
 {
     box->setExpanded(false);
+    // Out of sight until the layout gives it its place: nothing is painted twice.
+    box->move(0, height());
     connect(box, &DrawbackBox::headerActivated, this, [this, box] { setCurrentIndex(m_boxes.indexOf(box)); });
     connect(box, &DrawbackBox::widgetLost, this, [this, box] { drop(m_boxes.indexOf(box), box); });
     connect(box, &DrawbackBox::titleChanged, this, [this, box](const QString &title) {
