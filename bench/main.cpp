@@ -1,0 +1,93 @@
+// The benchmark: `./dev bench [--quick] [--json FILE]`..
+
+#include "application.h"
+#include "designerhost.h"
+#include "groups.h"
+#include "report.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+struct Group {
+    const char *name;
+    void (*measure)(DesignerHost &host, Report &report, const Effort &effort);
+};
+
+constexpr Group groups[] = {{"instructions", measureInstructions}, {"lists", measureLists},
+    {"matrix", measureMatrix}, {"forms", measureForms}, {"pages", measurePages}};
+
+constexpr char usage[] = "usage: bench [--quick] [--json FILE] [--only GROUP]\n"
+                         "  --quick       fewer rounds, and without what takes longest\n"
+                         "  --json FILE   writes all samples too\n"
+                         "  --only GROUP  instructions, lists, matrix, forms or pages\n";
+
+int complain(const QString &message)
+{
+    std::fprintf(stderr, "bench: %s\n%s", qPrintable(message), usage);
+    return 2;
+}
+
+/// Messages cost time, and most are Designer's: only those that end the program are shown.
+void keepSilent(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type == QtFatalMsg)
+        std::fprintf(stderr, "bench: %s\n", qPrintable(message));
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    // Settings and caches of the user are neither read nor written.
+    const QTemporaryDir home;
+    for (const char *variable : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(variable, QFile::encodeName(home.path()));
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(keepSilent);
+    BenchApplication application(argc, argv);
+    QCoreApplication::setOrganizationName(QStringLiteral("Benchmark"));
+
+    bool quick = false;
+    QString jsonFile, only;
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    for (int i = 0; i < arguments.size(); ++i) {
+        const QString &argument = arguments.at(i);
+        const bool takesValue = argument == QLatin1String("--json") || argument == QLatin1String("--only")
+            || argument == QLatin1String("--probe");
+        if (takesValue && ++i == arguments.size())
+            return complain(argument + QLatin1String(" needs a value"));
+        if (argument == QLatin1String("--quick"))
+            quick = true;
+        else if (argument == QLatin1String("--json"))
+            jsonFile = arguments.at(i);
+        else if (argument == QLatin1String("--only"))
+            only = arguments.at(i);
+        else if (argument == QLatin1String("--probe"))
+            return runProbe(qPrintable(arguments.at(i)));
+        else
+            return complain(QLatin1String("unknown argument ") + argument);
+    }
+    const auto isWanted
+        = [&only](const Group &group) { return only.isEmpty() || only == QLatin1String(group.name); };
+    if (std::none_of(std::begin(groups), std::end(groups), isWanted))
+        return complain(QLatin1String("unknown group ") + only);
+    QFile json(jsonFile);
+    if (!jsonFile.isEmpty() && !json.open(QIODevice::WriteOnly))
+        return complain(jsonFile + QLatin1String(": ") + json.errorString());
+
+    DesignerHost host({QStringLiteral(PLUGIN_ROOT)});
+    Report report;
+    for (const Group &group : groups) {
+        if (isWanted(group))
+            group.measure(host, report, {quick ? 3 : 7, quick});
+    }
+    report.print();
+    if (json.isOpen() && json.write(report.toJson()) < 0)
+        return complain(jsonFile + QLatin1String(": ") + json.errorString());
+    return 0;
+}

@@ -1,0 +1,100 @@
+#include "session.h"
+
+#include "application.h"
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTableWidget>
+
+#include <ctime>
+
+#include <malloc.h>
+
+namespace {
+
+constexpr int longestVisit = 300000; // ms
+
+double threadMilliseconds()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+}
+
+bool showsContents(const QWidget *widget)
+{
+    const QWidget *view = widget->parentWidget();
+    return view && (qobject_cast<const QListWidget *>(view) || qobject_cast<const QTableWidget *>(view))
+        && static_cast<const QAbstractScrollArea *>(view)->viewport() == widget
+        && widget->window()->isModal();
+}
+
+/// Presses Ok or Cancel, in a button box or as the buttons that the grid dialogs have.
+void pressEnd(const QDialog *dialog, bool accepted)
+{
+    QAbstractButton *button = nullptr;
+    if (const auto *box = dialog->findChild<QDialogButtonBox *>())
+        button = box->button(accepted ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+    else
+        button = dialog->findChild<QAbstractButton *>(
+            accepted ? QStringLiteral("okButton") : QStringLiteral("cancelButton"));
+    button->click();
+}
+
+} // namespace
+
+Stopwatch::Stopwatch()
+    : m_start(threadMilliseconds())
+{
+}
+
+double Stopwatch::milliseconds() const { return threadMilliseconds() - m_start; }
+
+double timed(const std::function<void()> &work)
+{
+    const Stopwatch stopwatch;
+    work();
+    BenchApplication::settle();
+    return stopwatch.milliseconds();
+}
+
+double heapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return double(info.uordblks + info.hblkhd) / (1024 * 1024);
+}
+
+Visit visitDialog(QAction *action, const std::function<bool(QDialog *)> &inside)
+{
+    BenchApplication::settle();
+    Visit visit;
+    bool visited = false;
+    Stopwatch sinceEnd;
+    QTimer watchdog;
+    watchdog.setSingleShot(true);
+    QObject::connect(&watchdog, &QTimer::timeout, [] { qFatal("a dialog did not come or did not close"); });
+    watchdog.start(longestVisit);
+
+    const Stopwatch sinceTrigger;
+    static_cast<BenchApplication *>(qApp)->afterPaint(showsContents, [&] {
+        visit.shown = sinceTrigger.milliseconds();
+        QTimer::singleShot(0, qApp, [&] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            BenchApplication::settle();
+            const bool accepted = inside(dialog);
+            visited = true;
+            sinceEnd = Stopwatch();
+            pressEnd(dialog, accepted);
+        });
+    });
+    action->trigger();
+    BenchApplication::settle();
+    visit.closed = sinceEnd.milliseconds();
+    if (!visited)
+        qFatal("'%s' opened no contents dialog", qPrintable(action->text()));
+    return visit;
+}

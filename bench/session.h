@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+
+class QAction;
+class QDialog;
+
+/// Milliseconds of processor time of this thread: what the clock on the wall would tell if nothing else ran
+/// on the machine, since nothing that is measured waits.
+class Stopwatch {
+public:
+    Stopwatch();
+    double milliseconds() const;
+
+private:
+    double m_start;
+};
+
+/// Milliseconds until \a work is done and its events too.
+double timed(const std::function<void()> &work);
+
+/// Megabytes of heap in use.
+double heapInUse();
+
+/// Times of one visit to a contents dialog, in milliseconds.
+struct Visit {
+    double shown = 0; ///< from the trigger to the end of the first paint of the contents
+    double closed = 0; ///< from the press of Ok or Cancel until all is done
+};
+
+/// Triggers \a action and runs \a inside in the dialog that it opens, after the first paint of its list or
+/// table and what follows it; \a inside says whether the dialog is accepted. Ends the program where no dialog
+/// comes.
+Visit visitDialog(QAction *action, const std::function<bool(QDialog *)> &inside);
