@@ -1,0 +1,196 @@
+#include "contents.h"
+#include "dialoghand.h"
+#include "monkey.h"
+
+#include <sorrel/SrDrawbackBoxGroup.h>
+
+#include <QtDesigner/QDesignerContainerExtension>
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerMetaDataBaseInterface>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QExtensionManager>
+
+#include <private/formwindowbase_p.h>
+#include <private/qdesigner_utils_p.h>
+
+#include <QtCore/QRegularExpression>
+#include <QtWidgets/QUndoStack>
+
+namespace {
+
+/// The first line in which two texts differ.
+QString difference(const QString &one, const QString &two)
+{
+    const QStringList ones = one.split(QLatin1Char('\n')), twos = two.split(QLatin1Char('\n'));
+    for (int i = 0; i < qMax(ones.size(), twos.size()); ++i) {
+        if (ones.value(i) != twos.value(i))
+            return QStringLiteral("line %1: '%2' and '%3'")
+                .arg(i + 1)
+                .arg(ones.value(i).trimmed(), twos.value(i).trimmed());
+    }
+    return {};
+}
+
+/// The form editor names the widget behind a layout on a form only when it loads it.
+QString withoutLayoutNames(QString text)
+{
+    static const QRegularExpression layoutWidget(
+        QStringLiteral("<widget class=\"QWidget\" name=\"(layoutWidget(_?\\d+)?)?\">"));
+    return text.replace(layoutWidget, QStringLiteral("<widget class=\"QWidget\" name=\"\">"));
+}
+
+/// An edit of lists of different lengths makes them equally long, and its undo does not shorten them again.
+QString withoutEmptyEntries(QString text)
+{
+    static const QRegularExpression field(QStringLiteral(
+        "\\s*<property name=\"(text|icon|toolTip|data|action)\">\\s*<string[^>]*/>\\s*</property>"));
+    static const QRegularExpression item(QStringLiteral("\\s*<item>\\s*</item>"));
+    static const QRegularExpression string(QStringLiteral("\\s*<string/>"));
+    static const QRegularExpression list(
+        QStringLiteral("\\s*<property name=\"\\w+(List|Tips)\">\\s*"
+                       "(<stringlist[^>]*/>|<stringlist[^>]*>\\s*</stringlist>)\\s*</property>"));
+    return text.remove(field).remove(item).remove(string).remove(list);
+}
+
+} // namespace
+
+QString Monkey::text() const
+{
+    QString text = DesignerHost::save(m_form);
+    // A page that becomes current is no undo step of the form editor, neither is a switch of resources.
+    static const QRegularExpression currentIndex(
+        QStringLiteral("\\n *<property name=\"currentIndex\">\\s*<number>-?\\d+</number>\\s*</property>"));
+    static const QRegularExpression resources(
+        QStringLiteral("<resources>.*</resources>"), QRegularExpression::DotMatchesEverythingOption);
+    // The form grows with a layout that does not fit and keeps that size when the layout is undone.
+    static const QRegularExpression size(QStringLiteral("<property name=\"geometry\">.*?</property>"),
+        QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch ofForm = size.match(text);
+    text.remove(ofForm.capturedStart(), ofForm.capturedLength());
+    text = withoutEmptyEntries(withoutLayoutNames(text)).remove(currentIndex);
+    text.replace(resources, QStringLiteral("<resources/>"));
+    return text;
+}
+
+void Monkey::checkStep(int indexBefore, int countBefore, bool walked)
+{
+    const QString now = text();
+    const int index = history()->index();
+    if (!walked && index == indexBefore && history()->count() == countBefore) {
+        // Nothing was pushed, or it joined the step before.
+        m_texts.insert(index, now);
+        return;
+    }
+    if (!walked) {
+        // Everything above is a new future.
+        while (!m_texts.isEmpty() && m_texts.lastKey() > indexBefore)
+            m_texts.remove(m_texts.lastKey());
+    }
+    const auto known = m_texts.constFind(index);
+    if (known == m_texts.constEnd())
+        m_texts.insert(index, now);
+    else if (*known != now)
+        finding(QStringLiteral("the form differs from what it was at step %1 of its history (%2): %3")
+                    .arg(index)
+                    .arg(history()->text(index), difference(*known, now)));
+}
+
+void Monkey::checkHistory(Random &)
+{
+    m_walked = true;
+    const int top = history()->index();
+    const auto look = [this](const char *direction) {
+        settle();
+        const auto known = m_texts.constFind(history()->index());
+        const QString now = text();
+        if (known == m_texts.constEnd())
+            m_texts.insert(history()->index(), now);
+        else if (*known != now)
+            finding(QStringLiteral("%1 to step %2 of the history gives another form (next: %3): %4")
+                        .arg(QLatin1String(direction))
+                        .arg(history()->index())
+                        .arg(history()->text(history()->index()), difference(*known, now)));
+    };
+    while (history()->canUndo() && m_finding.isEmpty()) {
+        history()->undo();
+        look("undo");
+    }
+    while (history()->index() < top && m_finding.isEmpty()) {
+        history()->redo();
+        look("redo");
+    }
+    if (m_finding.isEmpty())
+        checkReload();
+}
+
+void Monkey::checkReload()
+{
+    const QString saved = DesignerHost::save(m_form);
+    FormWindow *second = m_host.openForm(saved, m_folder.filePath(QStringLiteral("second.ui")));
+    if (!second) {
+        finding(QStringLiteral("the saved form does not open"));
+        return;
+    }
+    settle();
+    compareSaved(saved, DesignerHost::save(second));
+    m_host.closeForm(second);
+}
+
+void Monkey::compareSaved(const QString &saved, const QString &again)
+{
+    if (withoutLayoutNames(again) != withoutLayoutNames(saved))
+        finding(QStringLiteral("save, load, save: ")
+            + difference(withoutLayoutNames(saved), withoutLayoutNames(again)));
+}
+
+void Monkey::checkControls()
+{
+    if (!m_form || !m_form->mainContainer())
+        return;
+    const auto all = m_form->mainContainer()->findChildren<QWidget *>();
+    for (QWidget *widget : all) {
+        if (!hasContents(widget) || !m_form->isManaged(widget))
+            continue;
+        const QDesignerPropertySheetExtension *sheet = m_host.propertySheet(widget);
+        const QStringList names = contentsProperties(widget);
+        for (const QString &name : names) {
+            const QVariant ofWidget = widget->property(name.toLatin1());
+            const QVariant inSheet = sheet->property(sheet->indexOf(name));
+            const bool equal = inSheet.canConvert<qdesigner_internal::PropertySheetStringListValue>()
+                ? inSheet.value<qdesigner_internal::PropertySheetStringListValue>().value()
+                    == ofWidget.toStringList()
+                : inSheet == ofWidget;
+            if (!equal)
+                finding(QStringLiteral("%1 of %2 is not what the property sheet shows")
+                            .arg(name, widget->objectName()));
+        }
+        checkContainer(widget);
+    }
+}
+
+void Monkey::checkContainer(QWidget *widget)
+{
+    auto *group = qobject_cast<Vexa::DrawbackBoxGroup *>(widget);
+    if (!group)
+        return;
+    const auto *container
+        = qt_extension<QDesignerContainerExtension *>(m_host.core()->extensionManager(), group);
+    if (!container || container->count() != group->count()
+        || container->currentIndex() != group->currentIndex()) {
+        finding(QStringLiteral("the container extension disagrees with ") + group->objectName());
+        return;
+    }
+    if ((group->currentIndex() < 0) != (group->count() == 0) || group->currentIndex() >= group->count())
+        finding(QStringLiteral("%1 has %2 pages and shows page %3")
+                    .arg(group->objectName())
+                    .arg(group->count())
+                    .arg(group->currentIndex()));
+    for (int i = 0; i < group->count(); ++i) {
+        const QWidget *page = group->widget(i);
+        if (!page || page != container->widget(i) || page != group->box(i)->widget()
+            || group->box(i)->parentWidget() != group || !group->isAncestorOf(page))
+            finding(QStringLiteral("page %1 of %2 is not where it belongs").arg(i).arg(group->objectName()));
+        else if (!m_host.core()->metaDataBase()->item(const_cast<QWidget *>(page)))
+            finding(QStringLiteral("page %1 of %2 would not be saved").arg(i).arg(group->objectName()));
+    }
+}

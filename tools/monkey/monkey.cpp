@@ -1,0 +1,177 @@
+#include "monkey.h"
+
+#include "dialoghand.h"
+
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
+
+#include <private/formwindowbase_p.h>
+
+#include <QtGui/QImage>
+#include <QtWidgets/QUndoStack>
+
+#include <algorithm>
+
+Monkey::Monkey()
+    : m_host({QStringLiteral(PLUGIN_ROOT)})
+{
+    QImage image(16, 16, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    image.save(m_folder.filePath(QStringLiteral("icon.png")));
+    for (const char *name : {"one.qrc", "two.qrc"}) {
+        QFile file(m_folder.filePath(QLatin1String(name)));
+        file.open(QIODevice::WriteOnly);
+        file.write("<RCC><qresource prefix=\"/monkey\"><file>icon.png</file></qresource></RCC>");
+    }
+    m_log.allow(QStringLiteral("This plugin does not support raise\\(\\)")); // the platform without a display
+    // The container extension is meant to report every switch of pages.
+    m_log.allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged -?\\d+"));
+}
+
+const QVector<Monkey::Row> &Monkey::rows()
+{
+    static const QVector<Row> all{
+        {"drop", 16, &Monkey::drop},
+        {"select", 10, &Monkey::select},
+        {"formAction", 8, &Monkey::formAction},
+        {"copyAndPaste", 5, &Monkey::copyAndPaste},
+        {"morph", 2, &Monkey::morph},
+        {"layOut", 6, &Monkey::layOut},
+        {"usePages", 7, &Monkey::usePages},
+        {"showPage", 5, &Monkey::showPage},
+        {"editContents", 14, &Monkey::editContents},
+        {"editAndLose", 1, &Monkey::editAndLose},
+        {"changeProperty", 12, &Monkey::changeProperty},
+        {"moveByKeys", 3, &Monkey::moveByKeys},
+        {"doubleClick", 3, &Monkey::doubleClick},
+        {"switchResources", 2, &Monkey::switchResources},
+        {"preview", 1, &Monkey::preview},
+        {"undoSome", 10, &Monkey::undoSome},
+        {"redoSome", 7, &Monkey::redoSome},
+        {"saveAndReload", 2, &Monkey::saveAndReload},
+        {"switchForm", 2, &Monkey::switchForm},
+        {"closeForm", 1, &Monkey::closeForm},
+        {"checkHistory", 0, &Monkey::checkHistory},
+    };
+    return all;
+}
+
+QByteArray Monkey::randomAction(Random &random)
+{
+    int sum = 0;
+    for (const Row &row : rows())
+        sum += row.weight;
+    int place = random.below(sum);
+    for (const Row &row : rows()) {
+        place -= row.weight;
+        if (place < 0)
+            return row.name;
+    }
+    return rows().first().name;
+}
+
+bool Monkey::isAction(const QByteArray &name)
+{
+    return std::any_of(rows().cbegin(), rows().cend(), [&name](const Row &row) { return name == row.name; });
+}
+
+void Monkey::begin()
+{
+    m_finding.clear();
+    openFresh();
+}
+
+QString Monkey::perform(const Step &step)
+{
+    const auto row = std::find_if(
+        rows().cbegin(), rows().cend(), [&step](const Row &row) { return step.action == row.name; });
+    if (row == rows().cend())
+        return QStringLiteral("no such action: ") + QString::fromUtf8(step.action);
+    Random random(step.seed);
+    const int indexBefore = history()->index();
+    const int countBefore = history()->count();
+    const QPointer<FormWindow> formBefore = m_form;
+    m_walked = false;
+    (this->*row->action)(random);
+    settle();
+    if (m_finding.isEmpty() && m_form == formBefore)
+        checkStep(indexBefore, countBefore, m_walked);
+    if (m_finding.isEmpty())
+        checkControls();
+    const QStringList messages = m_log.takeUnexpected();
+    if (m_finding.isEmpty() && !messages.isEmpty())
+        finding(QStringLiteral("unexpected log line: ") + messages.first());
+    return m_finding;
+}
+
+QString Monkey::end()
+{
+    for (FormWindow *form : {m_form.data(), m_other.data()}) {
+        if (form)
+            m_host.closeForm(form);
+    }
+    settle();
+    const QStringList messages = m_log.takeUnexpected();
+    if (m_finding.isEmpty() && !messages.isEmpty())
+        finding(QStringLiteral("unexpected log line at the end: ") + messages.first());
+    return m_finding;
+}
+
+QString Monkey::statistics() const
+{
+    QString lines;
+    for (auto it = m_done.cbegin(); it != m_done.cend(); ++it)
+        lines += QStringLiteral("  %1 %2\n").arg(QString::fromUtf8(it.key()), -16).arg(it.value());
+    return lines;
+}
+
+void Monkey::openFresh()
+{
+    if (m_form)
+        m_host.closeForm(m_form);
+    if (m_other)
+        m_host.closeForm(m_other);
+    m_form = newForm();
+    forgetHistory();
+}
+
+Monkey::FormWindow *Monkey::newForm()
+{
+    FormWindow *form = m_host.newForm(320, 260);
+    // A form knows its resource files by their way from its own file.
+    form->setFileName(m_folder.filePath(QStringLiteral("form.ui")));
+    return form;
+}
+
+void Monkey::forgetHistory()
+{
+    m_texts.clear();
+    settle();
+    m_texts.insert(history()->index(), text());
+}
+
+QUndoStack *Monkey::history() const { return m_form->commandHistory(); }
+
+QList<QWidget *> Monkey::widgets() const
+{
+    QList<QWidget *> all;
+    const auto children = m_form->mainContainer()->findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        if (m_form->isManaged(child))
+            all += child;
+    }
+    return all;
+}
+
+QWidget *Monkey::anyWidget(Random &random) const
+{
+    const QList<QWidget *> all = widgets();
+    return all.isEmpty() ? nullptr : all.at(random.below(all.size()));
+}
+
+void Monkey::finding(const QString &text)
+{
+    if (m_finding.isEmpty())
+        m_finding = text;
+}
