@@ -31,12 +31,14 @@ QString difference(const QString &one, const QString &two)
     return {};
 }
 
-/// The form editor names the widget behind a layout on a form only when it loads it.
+/// The form editor names the widget behind a layout on a form only when it loads it, and then has other
+/// neighbours in its list of what lies above what.
 QString withoutLayoutNames(QString text)
 {
     static const QRegularExpression layoutWidget(
         QStringLiteral("<widget class=\"QWidget\" name=\"(layoutWidget(_?\\d+)?)?\">"));
-    return text.replace(layoutWidget, QStringLiteral("<widget class=\"QWidget\" name=\"\">"));
+    static const QRegularExpression zOrder(QStringLiteral("\\n *<zorder>[^<]*</zorder>"));
+    return text.remove(zOrder).replace(layoutWidget, QStringLiteral("<widget class=\"QWidget\" name=\"\">"));
 }
 
 /// An edit of lists of different lengths makes them equally long, and its undo does not shorten them again.
