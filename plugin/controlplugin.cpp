@@ -19,21 +19,15 @@ bool isOfClass(const QObject *object, const char *className)
     return qstrcmp(object->metaObject()->className(), className) == 0;
 }
 
-/// Has every push-button matrix below \a object look up its texts in the new resource set. Check boxes and
-/// radio buttons stay as they are: their texts do not depend on resources.
-void reapplyMatrixTexts(QObject *object)
+/// Adds the push-button matrices below \a object. Check boxes and radio buttons are left out: their texts do
+/// not depend on resources.
+void findMatrices(QObject *object, QVector<QPointer<QObject>> *matrices)
 {
-    if (!object)
-        return;
-    if (object->isWidgetType() && isOfClass(object, "Vexa::MatrixPushButtons")) {
-        auto *matrix
-            = static_cast<Vexa::AbstractMatrixOptions *>(static_cast<Vexa::MatrixPushButtons *>(object));
-        matrix->setTextList(matrix->textList());
-    }
-    // Runs over the whole form once per matrix ever made, so it makes no copy of each list of children.
+    if (object->isWidgetType() && isOfClass(object, "Vexa::MatrixPushButtons"))
+        *matrices += object;
     const QObjectList &children = object->children();
-    for (int i = 0; i < children.size(); ++i)
-        reapplyMatrixTexts(children.at(i));
+    for (QObject *child : children)
+        findMatrices(child, matrices);
 }
 
 } // namespace
@@ -105,7 +99,7 @@ void PropertyWatchingControlPlugin::watchDesigner()
             SLOT(propertyChanged(QString, QVariant)));
 }
 
-void PropertyWatchingControlPlugin::propertyChanged(QString, QVariant)
+void PropertyWatchingControlPlugin::propertyChanged(const QString &, const QVariant &)
 {
     // The editor that signals may be one that was replaced since, so ask the one that is connected last.
     QObject *object = m_propertyEditor ? m_propertyEditor->object() : nullptr;
@@ -116,13 +110,38 @@ void PropertyWatchingControlPlugin::propertyChanged(QString, QVariant)
 void ResourceWatchingControlPlugin::watchDesigner()
 {
     PropertyWatchingControlPlugin::watchDesigner();
-    if (m_core && m_core->resourceModel())
-        connect(m_core->resourceModel(), SIGNAL(resourceSetActivated(QtResourceSet *, bool)), this,
-            SLOT(resourceSetActivated(QtResourceSet *, bool)));
+    QtResourceModel *model = m_core ? m_core->resourceModel() : nullptr;
+    if (!model)
+        return;
+    if (model != m_model) {
+        m_model = model;
+        m_connections = 0;
+    }
+    connect(model, SIGNAL(resourceSetActivated(QtResourceSet *, bool)), this,
+        SLOT(resourceSetActivated(QtResourceSet *, bool)));
+    ++m_connections;
 }
 
 void ResourceWatchingControlPlugin::resourceSetActivated(QtResourceSet *, bool)
 {
-    if (m_core && m_core->formWindowManager())
-        reapplyMatrixTexts(m_core->formWindowManager()->activeFormWindow());
+    // Every matrix that was ever made has brought a connection, so this runs thousands of times for one
+    // signal. The form, which can hold as many widgets, is searched for the first of them only.
+    const bool bySignal = sender() && sender() == m_model;
+    if (!bySignal || m_callsToCome == 0) {
+        m_matrices.clear();
+        QDesignerFormWindowManagerInterface *manager = m_core ? m_core->formWindowManager() : nullptr;
+        if (QObject *form = manager ? manager->activeFormWindow() : nullptr)
+            findMatrices(form, &m_matrices);
+        m_callsToCome = bySignal ? m_connections : 1;
+    }
+    --m_callsToCome;
+    for (const QPointer<QObject> &object : qAsConst(m_matrices)) {
+        if (!object)
+            continue;
+        auto *matrix = static_cast<Vexa::AbstractMatrixOptions *>(
+            static_cast<Vexa::MatrixPushButtons *>(object.data()));
+        matrix->setTextList(matrix->textList());
+    }
+    if (m_callsToCome == 0)
+        m_matrices.clear();
 }

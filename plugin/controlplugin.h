@@ -8,6 +8,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtCore/QVariant>
+#include <QtCore/QVector>
 
 class QDesignerFormEditorInterface;
 class QDesignerPropertyEditorInterface;
@@ -76,7 +77,7 @@ protected:
     void watchDesigner() override;
 
 protected slots:
-    void propertyChanged(QString name, QVariant value);
+    void propertyChanged(const QString &name, const QVariant &value);
 };
 
 /// A descriptor that also has push-button matrices re-apply their texts when a resource set is activated.
@@ -91,6 +92,12 @@ protected:
 
 protected slots:
     void resourceSetActivated(QtResourceSet *resourceSet, bool resourceSetChanged);
+
+private:
+    const QObject *m_model = nullptr; ///< the sender of all connections; only compared
+    int m_connections = 0;
+    int m_callsToCome = 0; ///< of the signal that is being answered
+    QVector<QPointer<QObject>> m_matrices; ///< of the active form, during that signal
 };
 
 /// A descriptor whose control has the task menu that \a Factory makes.
