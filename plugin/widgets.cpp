@@ -37,7 +37,7 @@ void DrawbackBoxGroupPlugin::currentIndexChanged(int index)
         form->selectWidget(group->widget(index), true);
 }
 
-void DrawbackBoxGroupPlugin::pageTitleChanged(QString)
+void DrawbackBoxGroupPlugin::pageTitleChanged(const QString &)
 {
     auto *group = qobject_cast<Vexa::DrawbackBoxGroup *>(sender());
     if (!group)

@@ -82,7 +82,7 @@ protected:
 
 private slots:
     void currentIndexChanged(int index);
-    void pageTitleChanged(QString title);
+    void pageTitleChanged(const QString &title);
 };
 
 class FormPlugin final : public Descriptor<Vexa::Form, rowOf("Vexa::Form")> {

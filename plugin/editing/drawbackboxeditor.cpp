@@ -43,7 +43,7 @@ DrawbackBoxEditor::DrawbackBoxEditor(QDesignerFormWindowInterface *form, QWidget
 
 DrawbackBoxContents DrawbackBoxEditor::fillContentsFromDrawbackBoxGroup(Vexa::DrawbackBoxGroup *group)
 {
-    const DrawbackBoxContents contents = DrawbackBoxContents::fromDrawbackBoxGroup(group);
+    DrawbackBoxContents contents = DrawbackBoxContents::fromDrawbackBoxGroup(group);
     m_boxes = contents.boxes;
     load(tr("Edit DrawbackBoxGroup"), contents.items, group, drawbackBoxProperties);
     m_initialIds.resize(contents.items.size());

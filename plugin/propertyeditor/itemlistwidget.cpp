@@ -190,7 +190,7 @@ void ItemListWidget::dataChanged(
     const QSize size = m_sizes->size(row);
     const bool inPlace = row == bottomRight.row() && size.height() == oldSize.height()
         && std::max(size.width(), oldSize.width()) <= viewport()->width();
-    if (inPlace)
+    if (inPlace) // NOLINTNEXTLINE(bugprone-parent-virtual-call): the list view would lay everything out
         QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
     else
         QListWidget::dataChanged(topLeft, bottomRight, roles);

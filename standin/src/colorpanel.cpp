@@ -63,7 +63,8 @@ int ColorPanel::currentSwatch() const
 QRect ColorPanel::swatchRect(int swatch) const
 {
     const QSizeF cell(qreal(width()) / m_columns, qreal(height()) / rows());
-    const QPointF corner(swatch % m_columns * cell.width(), swatch / m_columns * cell.height());
+    const int row = swatch / m_columns;
+    const QPointF corner(swatch % m_columns * cell.width(), row * cell.height());
     return QRectF(corner, cell).toRect().adjusted(1, 1, -1, -1);
 }
 

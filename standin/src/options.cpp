@@ -140,7 +140,7 @@ OptionCheckBox::OptionCheckBox(QWidget *parent)
     , m_checkBox(new QCheckBox(this))
 {
     addField(m_checkBox, 1);
-    showCurrentIndex();
+    OptionCheckBox::showCurrentIndex();
     connect(
         m_checkBox, &QCheckBox::clicked, this, [this](bool checked) { setCurrentIndex(checked ? 0 : 1); });
 }
