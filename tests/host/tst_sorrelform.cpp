@@ -18,9 +18,10 @@ struct Result {
     QByteArray errors;
 };
 
-Result run(const QStringList &arguments)
+Result run(const QStringList &arguments, const QString &folder = QString())
 {
     QProcess process;
+    process.setWorkingDirectory(folder);
     process.start(QStringLiteral(SORREL_FORM), arguments);
     Result result;
     if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
@@ -37,10 +38,18 @@ QByteArray form(const QByteArray &contents, const QByteArray &afterwards = QByte
         + "</widget>" + afterwards + "</ui>\n";
 }
 
-QByteArray matrix(const QByteArray &rows)
+/// A widget named "n" of this class with this inside.
+QByteArray containing(const char *className, const QByteArray &inside)
 {
-    return form("<widget class=\"Vexa::MatrixPushButtons\" name=\"m\"><property name=\"row\"><UInt>" + rows
-        + "</UInt></property></widget>");
+    return QByteArray("<widget class=\"") + className + "\" name=\"n\">" + inside + "</widget>";
+}
+QByteArray empty(const char *className) { return containing(className, QByteArray()); }
+
+/// What a form says of a class that Designer does not have.
+QByteArray declared(const char *className, const char *base)
+{
+    return QByteArray("<customwidgets><customwidget><class>") + className + "</class><extends>" + base
+        + "</extends><header>n.h</header></customwidget></customwidgets>";
 }
 
 } // namespace
@@ -62,56 +71,72 @@ private slots:
         QVERIFY2(result.errors.startsWith("[1/" + QByteArray::number(examples.size()) + "] "), result.errors);
     }
 
+    /// The page shows what the program says of the broken examples.
+    void documentedOutputIsTrue()
+    {
+        const QString folder = QStringLiteral(EXAMPLES "/broken");
+        const QStringList forms = QDir(folder).entryList({QStringLiteral("*.ui")}, QDir::Files, QDir::Name);
+        Result result = run(QStringList(QStringLiteral("check")) + forms, folder);
+        QCOMPARE(result.exitCode, 2); // one cannot be read
+        QByteArray page = read(QStringLiteral(DOCUMENT));
+        page.remove(0, page.indexOf("```text\n") + 8);
+        page.truncate(page.indexOf("```"));
+        QCOMPARE(result.output.replace(QFile::encodeName(folder), "..."), page);
+    }
+
+    /// What Designer said of a form that it could not open is not told of the next one.
+    void findingsStayWithTheirForm()
+    {
+        const QString bad = write("<html/>");
+        const Result result = run({QStringLiteral("check"), bad, exampleForms().first()});
+        QCOMPARE(result.exitCode, 1);
+        QVERIFY2(result.output.contains(QFile::encodeName(exampleForms().first()) + ": ok\n"), result.output);
+    }
+
     void findsWhatIsWrong_data()
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("kinds");
-        const auto add = [](const char *name, const QByteArray &text, const QStringList &kinds) {
-            QTest::newRow(name) << text << kinds;
+        const auto add = [](const char *name, const QByteArray &text, const char *kinds) {
+            QTest::newRow(name) << text << words(kinds);
         };
-        const QString error = QStringLiteral("error");
-        add("empty file", "", {error});
-        add("other XML", "<html><body/></html>", {error});
-        add("cut off", form("<widget class=\"QPushButton\" name=\"b\">").left(90), {error});
+        add("empty file", "", "error");
+        add("other XML", "<html><body/></html>", "error");
+        add("cut off", form("<widget class=\"QPushButton\" name=\"b\">").left(90), "error");
         add("expanding entities",
             "<!DOCTYPE ui [<!ENTITY a \"aaaaaaaaaaaaaaaaaaaaaaaaaaaaaa\"><!ENTITY b "
             "\"&a;&a;&a;&a;&a;&a;&a;&a;\">"
             "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;\">]>"
                 + form("<property name=\"windowTitle\"><string>&d;&d;&d;&d;&d;&d;&d;&d;</string></property>"),
-            {error});
-        add("unknown class", form("<widget class=\"QNothing\" name=\"n\"/>"), words("unknown-class"));
-        add("unknown control",
-            form("<widget class=\"Vexa::Nothing\" name=\"n\"/>",
-                "<customwidgets><customwidget><class>Vexa::Nothing</class><extends>QWidget</extends>"
-                "<header>nothing.h</header></customwidget></customwidgets>"),
-            words("unknown-class"));
-        add("promoted class",
-            form("<widget class=\"MyEdit\" name=\"n\"/>",
-                "<customwidgets><customwidget><class>MyEdit</class><extends>QLineEdit</extends>"
-                "<header>myedit.h</header></customwidget></customwidgets>"),
-            {});
+            "error");
+        add("unknown class", form(empty("QNothing")), "unknown-class");
+        add("unknown control", form(empty("Vexa::Nothing"), declared("Vexa::Nothing", "QWidget")),
+            "unknown-class");
+        add("promoted class", form(empty("MyEdit"), declared("MyEdit", "QLineEdit")), "");
         add("unknown property",
-            form("<widget class=\"Vexa::ComboBox\" name=\"c\"><property "
-                 "name=\"nothing\"><number>1</number></property>"
-                 "</widget>"),
-            words("unknown-property"));
+            form(containing("Vexa::ComboBox", "<property name=\"nothing\"><number>1</number></property>")),
+            "unknown-property");
+        add("value of another type",
+            form(containing("QLabel", "<property name=\"geometry\"><number>1</number></property>")), "lost");
+        add("number of another type",
+            form(containing(
+                "Vexa::MatrixPushButtons", "<property name=\"row\"><number>2</number></property>")),
+            "");
         add("dynamic property",
-            form("<widget class=\"Vexa::ComboBox\" name=\"c\"><property name=\"id\" "
-                 "stdset=\"0\"><number/></property>"
-                 "</widget>"),
-            {});
-        add("repeated name",
-            form("<widget class=\"QLabel\" name=\"l\"/><widget class=\"QLabel\" name=\"l\"/>"),
-            words("repeated-name"));
+            form(containing("Vexa::ComboBox", "<property name=\"id\" stdset=\"0\"><number/></property>")),
+            "");
+        add("repeated name", form(empty("QLabel") + empty("QLabel")), "repeated-name");
         // In Designer itself this is a question, which nobody is there to answer.
         add("absent resource file",
-            form(QByteArray(), "<resources><include location=\"absent.qrc\"/></resources>"),
-            words("warning"));
-        add("more rows than fit", matrix("4294967295"), {});
+            form(QByteArray(), "<resources><include location=\"absent.qrc\"/></resources>"), "warning");
+        add("more rows than fit",
+            form(containing(
+                "Vexa::MatrixPushButtons", "<property name=\"row\"><UInt>4294967295</UInt></property>")),
+            "");
         add("a thousand nested widgets",
             form(QByteArray("<widget class=\"QFrame\" name=\"f\">").repeated(1000)
                 + QByteArray("</widget>").repeated(1000)),
-            words("repeated-name"));
+            "repeated-name");
     }
     void findsWhatIsWrong()
     {
@@ -133,6 +158,20 @@ private slots:
         }
         found.removeDuplicates();
         QCOMPARE(found, kinds);
+        QCOMPARE(read(fileName), text);
+    }
+
+    void tooDeepFormsAreRefused()
+    {
+        const QByteArray text = form(QByteArray("<widget class=\"QFrame\">").repeated(100000)
+            + QByteArray("</widget>").repeated(100000));
+        const QString fileName = write(text);
+        for (const QStringList &arguments : {words("check"), words("normalize"), words("render")}) {
+            const QStringList picture(arguments == words("render") ? words("out.png") : QStringList());
+            const Result result = run(arguments + QStringList(fileName) + picture, m_folder.path());
+            QCOMPARE(result.exitCode, 2);
+            QVERIFY2((result.output + result.errors).contains("100001 widgets"), result.errors);
+        }
         QCOMPARE(read(fileName), text);
     }
 
@@ -188,8 +227,7 @@ private slots:
         QCOMPARE(read(fileName), once);
 
         // A form with findings stays as it is.
-        const QByteArray bad
-            = form("<widget class=\"QLabel\" name=\"l\"/><widget class=\"QLabel\" name=\"l\"/>");
+        const QByteArray bad = form(empty("QLabel") + empty("QLabel"));
         write(bad);
         QCOMPARE(run({QStringLiteral("normalize"), fileName}).exitCode, 1);
         QCOMPARE(read(fileName), bad);
@@ -211,7 +249,7 @@ private slots:
 private:
     static QStringList exampleForms()
     {
-        const QDir folder(QStringLiteral(EXAMPLE_FORMS));
+        const QDir folder(QStringLiteral(EXAMPLES "/forms"));
         QStringList forms;
         const QStringList names = folder.entryList({QStringLiteral("*.ui")});
         for (const QString &name : names)

@@ -14,6 +14,9 @@
 
 #include <QtWidgets/QWidget>
 
+#include <algorithm>
+#include <iterator>
+
 using qdesigner_internal::FormWindowBase;
 
 namespace {
@@ -21,6 +24,20 @@ namespace {
 QString inWidget(const QString &what, const QString &widget)
 {
     return QStringLiteral("%1, in widget \"%2\"").arg(what, widget);
+}
+
+/// Whether Designer may write a value of one type as one of the other without a loss.
+bool areAlike(const QString &type, const QString &other)
+{
+    static const QStringList groups[] = {
+        {QStringLiteral("number"), QStringLiteral("UInt"), QStringLiteral("longlong"),
+            QStringLiteral("uLongLong"), QStringLiteral("float"), QStringLiteral("double")},
+        {QStringLiteral("enum"), QStringLiteral("set")},
+        {QStringLiteral("string"), QStringLiteral("cstring")},
+    };
+    return type == other || std::any_of(std::begin(groups), std::end(groups), [&](const QStringList &group) {
+        return group.contains(type) && group.contains(other);
+    });
 }
 
 /// What is in \a before and no more in \a after.
@@ -37,11 +54,17 @@ void findLosses(const FormFacts &before, const FormFacts &after, QVector<Finding
                 inWidget(
                     QStringLiteral("saving turns %1 into %2").arg(it->className, kept->className), it.key())};
         }
-        const QStringList properties = it->properties + it->dynamicProperties;
-        for (const QString &property : properties) {
-            if (!kept->properties.contains(property) && !kept->dynamicProperties.contains(property))
-                *findings += {
-                    "lost", inWidget(QStringLiteral("saving loses the property %1").arg(property), it.key())};
+        for (auto property = it->properties.cbegin(); property != it->properties.cend(); ++property) {
+            const auto keptProperty = kept->properties.constFind(property.key());
+            if (keptProperty == kept->properties.cend()) {
+                *findings += {"lost",
+                    inWidget(QStringLiteral("saving loses the property %1").arg(property.key()), it.key())};
+            } else if (!areAlike(property->type, keptProperty->type)) {
+                *findings += {"lost",
+                    inWidget(QStringLiteral("saving turns the property %1 from %2 into %3")
+                                 .arg(property.key(), property->type, keptProperty->type),
+                        it.key())};
+            }
         }
     }
     for (const QString &name : before.repeatedNames)
@@ -88,12 +111,14 @@ FormReport FormChecker::check(const QString &text, const QString &fileName)
             continue;
         const auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(extensions, widget);
         const auto *dynamic = qt_extension<QDesignerDynamicPropertySheetExtension *>(extensions, widget);
-        for (const QString &property : it->properties) {
-            const int index = sheet ? sheet->indexOf(property) : -1;
+        for (auto property = it->properties.cbegin(); property != it->properties.cend(); ++property) {
+            if (property->dynamic)
+                continue;
+            const int index = sheet ? sheet->indexOf(property.key()) : -1;
             if (index < 0 || (dynamic && dynamic->isDynamicProperty(index))) {
                 report.findings += {"unknown-property",
-                    inWidget(
-                        QStringLiteral("unknown property %1 of %2").arg(property, it->className), it.key())};
+                    inWidget(QStringLiteral("unknown property %1 of %2").arg(property.key(), it->className),
+                        it.key())};
             }
         }
     }

@@ -7,6 +7,7 @@ FormFacts FormFacts::of(const QString &ui)
     FormFacts facts;
     QStringList elements; // open ones, innermost last
     QStringList owners; // object names of the open widgets
+    QString property; // the last one of a widget
     QXmlStreamReader xml(ui);
     while (!xml.atEnd()) {
         switch (xml.readNext()) {
@@ -20,10 +21,14 @@ FormFacts FormFacts::of(const QString &ui)
                     facts.repeatedNames += name;
                 facts.widgets[name].className = attributes.value(QLatin1String("class")).toString();
                 owners += name;
+                facts.depth = qMax(facts.depth, owners.size());
             } else if (element == QLatin1String("property") && parent == QLatin1String("widget")) {
-                Widget &widget = facts.widgets[owners.last()];
-                const bool dynamic = attributes.value(QLatin1String("stdset")) == QLatin1String("0");
-                (dynamic ? widget.dynamicProperties : widget.properties) += name;
+                property = name;
+                facts.widgets[owners.last()].properties[name].dynamic
+                    = attributes.value(QLatin1String("stdset")) == QLatin1String("0");
+            } else if (parent == QLatin1String("property")
+                && elements.value(elements.size() - 2) == QLatin1String("widget")) {
+                facts.widgets[owners.last()].properties[property].type = element;
             } else if (element == QLatin1String("class") && parent == QLatin1String("customwidget")) {
                 facts.declaredClasses += xml.readElementText(QXmlStreamReader::SkipChildElements);
                 continue; // its end is read

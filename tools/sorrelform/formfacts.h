@@ -5,15 +5,19 @@
 
 /// What stands in the text of a form, before Designer made anything of it.
 struct FormFacts {
+    struct Property {
+        bool dynamic = false; ///< marked with stdset="0": uic does not set it through a setter
+        QString type; ///< the element of the value, such as "number"
+    };
     struct Widget {
         QString className;
-        QStringList properties; ///< that uic sets through their setters
-        QStringList dynamicProperties; ///< marked with stdset="0"
+        QMap<QString, Property> properties; ///< by name
     };
 
     QMap<QString, Widget> widgets; ///< by object name
     QStringList repeatedNames;
     QStringList declaredClasses; ///< the custom widgets
+    int depth = 0; ///< of the widgets in each other
 
     /// The facts as far as \a ui can be read; what is wrong with the rest is Designer's to say.
     static FormFacts of(const QString &ui);

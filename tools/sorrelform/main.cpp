@@ -2,6 +2,7 @@
 
 #include "designerhost.h"
 #include "formcheck.h"
+#include "formfacts.h"
 #include "pluginfolder.h"
 #include "silentdialogs.h"
 #include "warningcollector.h"
@@ -53,6 +54,12 @@ int fail(const QString &message)
     return CannotWork;
 }
 
+/// What Qt takes on a desktop that does not say; without a display it would be a third larger.
+constexpr int desktopFontSize = 9;
+
+/// Designer's time grows with the square of the depth; deeper than this a form takes it minutes.
+constexpr int greatestDepth = 2000;
+
 /// False, with the reason in \a error, where \a fileName cannot be read or is no text that Designer would
 /// write.
 bool readForm(const QString &fileName, QString *text, QString *error)
@@ -71,6 +78,11 @@ bool readForm(const QString &fileName, QString *text, QString *error)
     *text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     if (state.invalidChars || state.remainingChars) {
         *error = QStringLiteral("not a text in UTF-8");
+        return false;
+    }
+    const int depth = FormFacts::of(*text).depth;
+    if (depth > greatestDepth) {
+        *error = QStringLiteral("%1 widgets stand in each other, more than %2").arg(depth).arg(greatestDepth);
         return false;
     }
     return true;
@@ -190,6 +202,11 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("sorrel-form"));
     QApplication::setApplicationVersion(QStringLiteral(VERSION));
+    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
+        QFont font = QApplication::font();
+        font.setPointSize(desktopFontSize);
+        QApplication::setFont(font);
+    }
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QLatin1String(description));

@@ -25,6 +25,7 @@ WarningCollector::WarningCollector()
     : m_previous(qInstallMessageHandler(collect))
 {
     previous = m_previous;
+    collected.clear(); // an earlier collector may not have been asked
 }
 
 WarningCollector::~WarningCollector() { qInstallMessageHandler(m_previous); }
