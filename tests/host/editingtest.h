@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialog.h"
 #include "hosttest.h"
 #include "panedriver.h"
 #include "testdata.h"
@@ -7,8 +8,6 @@
 #include <QtCore/QPointer>
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QAction>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QMenu>
@@ -24,47 +23,63 @@ class EditingTest : public HostTest {
 
 protected:
     using UseDialog = std::function<void(QDialog *)>;
+    /// The contents of a control as a text.
+    using Dump = QString (*)(QWidget *control);
 
-    /// Hands the dialog that \a opener opens to \a use, and cancels it where that leaves it open.
-    static bool inDialog(const std::function<void()> &opener, const UseDialog &use)
+    /// A control and its form at one place of the history.
+    struct State {
+        State(const FormWindow *form, QWidget *control, Dump dump)
+            : contents(dump(control))
+            , saved(DesignerHost::save(form))
+            , index(form->commandHistory()->index())
+        {
+        }
+        QString contents;
+        QString saved;
+        int index;
+    };
+
+    /// Goes through the history from \a before to its end and back, and opens the saved form again.
+    void checkHistory(FormWindow *form, QWidget *control, Dump dump, const State &before)
     {
-        bool opened = false;
-        QTimer::singleShot(0, qApp, [&] {
-            const QPointer<QDialog> dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            opened = true;
-            use(dialog);
-            if (dialog && dialog->isVisible())
-                dialog->reject();
-        });
-        opener();
-        return opened;
+        const State after(form, control, dump);
+        QVERIFY(after.saved != before.saved);
+        QVERIFY(form->isDirty());
+        for (const State &state : {before, after, before, after}) {
+            form->commandHistory()->setIndex(state.index);
+            compareStates(State(form, control, dump), state);
+            QCOMPARE(form->isDirty(), state.index == after.index);
+        }
+        FormWindow *second = open(after.saved);
+        QVERIFY(second);
+        auto *reloaded = find<QWidget>(second, control->objectName());
+        QVERIFY(reloaded);
+        compareStates(State(second, reloaded, dump), after);
+    }
+    static void compareStates(const State &actual, const State &expected)
+    {
+        QCOMPARE(actual.contents, expected.contents);
+        compareTexts(actual.saved, expected.saved);
     }
 
-    /// Opens the dialog by the context menu entry with this text.
+    /// Opens the dialog by the context menu entry with this text and hands it to \a use.
     bool edit(FormWindow *form, QWidget *control, const char *entry, const UseDialog &use)
     {
-        QAction *action = m_host->menuAction(form, control, QLatin1String(entry));
-        return action && inDialog([action] { action->trigger(); }, use);
+        return withDialog([&] { trigger(form, control, entry); }, use);
     }
 
-    /// The title of the dialog that a double click on the selected control opens; cancels the dialog.
+    /// The title of the dialog that a double click on the selected control opens.
     static QString titleAfterDoubleClick(FormWindow *form, QWidget *control)
     {
         QString title;
-        QTimer timer;
-        connect(&timer, &QTimer::timeout, [&title] {
-            if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget())) {
-                title = dialog->windowTitle();
-                dialog->reject();
-            }
-        });
-        timer.start(0);
-        DesignerHost::select(form, control);
-        QTest::mouseClick(control, Qt::LeftButton);
-        QTest::mouseDClick(control, Qt::LeftButton);
-        return QTest::qWaitFor([&title] { return !title.isNull(); }) ? title : QString();
+        const auto doubleClick = [&] {
+            DesignerHost::select(form, control);
+            QTest::mouseClick(control, Qt::LeftButton);
+            QTest::mouseDClick(control, Qt::LeftButton);
+            QTRY_VERIFY(!title.isNull());
+        };
+        withDialog(doubleClick, [&title](QDialog *dialog) { title = dialog->windowTitle(); });
+        return title;
     }
 
     /// How often the context menu of a control has this entry.
@@ -74,6 +89,17 @@ protected:
         for (const QAction *action : m_host->contextMenu(form, control)->actions())
             texts += action->text();
         return texts.count(QLatin1String(entry));
+    }
+
+    /// The rows of the pane, which the button for it shows.
+    static QStringList shownPaneRows(QDialog *dialog)
+    {
+        const PaneDriver pane(dialog);
+        const auto *toggle = dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton"));
+        const bool hidden = !pane.tree()->isVisible() && toggle->text() == QLatin1String("Properties &<<");
+        press(dialog, "showPropertiesButton");
+        const bool shown = pane.tree()->isVisible() && toggle->text() == QLatin1String("Properties &>>");
+        return hidden && shown ? pane.names() : QStringList();
     }
 
     static void press(const QDialog *dialog, QDialogButtonBox::StandardButton button)

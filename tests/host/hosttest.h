@@ -1,17 +1,15 @@
 #pragma once
 
 #include "designerhost.h"
-#include "logwatch.h"
-
-#include <QtTest/QtTest>
+#include "quiettest.h"
 
 #include <private/formwindowbase_p.h>
 
-#include <memory>
+#include <QtWidgets/QAction>
 
 /// Base of the tests in the embedded Designer: one host for all test functions, no form left over from one to
-/// the next, and no message that a test did not announce.
-class HostTest : public QObject {
+/// the next.
+class HostTest : public QuietTest {
     Q_OBJECT
 
 protected:
@@ -44,6 +42,20 @@ protected:
             close(form);
         return saved;
     }
+    /// Drops a control of the plugin, by its name without the namespace.
+    QWidget *drop(FormWindow *form, const char *control, const QPoint &position = QPoint(60, 60))
+    {
+        return m_host->drop(form, QLatin1String("Vexa::") + QLatin1String(control), position);
+    }
+    /// Triggers the context menu entry with this text; false where there is none to be triggered.
+    bool trigger(FormWindow *form, QWidget *widget, const char *entry)
+    {
+        QAction *action = m_host->menuAction(form, widget, QString::fromUtf8(entry));
+        if (!action || !action->isEnabled())
+            return false;
+        action->trigger();
+        return true;
+    }
     /// Compares texts line by line, so that a failure shows the first line that differs.
     static void compareTexts(const QString &actual, const QString &expected)
     {
@@ -54,38 +66,32 @@ protected:
         QCOMPARE(actualLines.size(), expectedLines.size());
     }
     template <typename Widget>
-    static Widget *find(const FormWindow *form, const char *name = "")
+    static Widget *find(const FormWindow *form, const QString &name)
     {
-        return form->mainContainer()->findChild<Widget *>(QLatin1String(name));
+        return form->mainContainer()->findChild<Widget *>(name);
     }
 
-    std::unique_ptr<LogWatch> m_log;
     std::unique_ptr<DesignerHost> m_host;
 
 protected slots:
     void initTestCase()
     {
-        m_log = std::make_unique<LogWatch>();
+        init();
         m_host = std::make_unique<DesignerHost>(QStringList{QStringLiteral(PLUGIN_ROOT)});
-        QCOMPARE(m_log->takeUnexpected().join(QLatin1Char('\n')), QString());
-    }
-    void init()
-    {
-        m_log.reset();
-        m_log = std::make_unique<LogWatch>();
+        QuietTest::cleanup();
     }
     void cleanup()
     {
         for (FormWindow *form : qAsConst(m_forms))
             m_host->closeForm(form);
         m_forms.clear();
-        QCOMPARE(m_log->takeUnexpected().join(QLatin1Char('\n')), QString());
+        QuietTest::cleanup();
     }
     void cleanupTestCase()
     {
         m_host.reset();
-        QCOMPARE(m_log->takeUnexpected().join(QLatin1Char('\n')), QString());
-        m_log.reset();
+        QuietTest::cleanup();
+        QuietTest::cleanupTestCase();
     }
 
 private:

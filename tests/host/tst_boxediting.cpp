@@ -12,7 +12,7 @@ namespace {
 
 /// A form with a group of pages p0, p1 ... with these titles ("-" for none), each with a button b0, b1 ... on
 /// it.
-QString formWith(const QString &titles)
+QString formWithPages(const QString &titles)
 {
     QString pages;
     const QStringList list = titles.split(QLatin1Char(' '), Qt::SkipEmptyParts);
@@ -28,18 +28,16 @@ QString formWith(const QString &titles)
                      .arg(i)
                      .arg(title);
     }
-    return QLatin1String(
-               "<ui version=\"4.0\"><class>Form</class><widget class=\"QWidget\" name=\"Form\">"
-               "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>600</width><height>500</height>"
-               "</rect></property><widget class=\"Vexa::DrawbackBoxGroup\" name=\"group\">"
-               "<property name=\"geometry\"><rect><x>20</x><y>20</y><width>300</width><height>400</height>"
-               "</rect></property>")
-        + pages + QLatin1String("</widget></widget></ui>");
+    return formWith(
+        QLatin1String("<widget class=\"Vexa::DrawbackBoxGroup\" name=\"group\"><property name=\"geometry\">"
+                      "<rect><x>20</x><y>20</y><width>300</width><height>400</height></rect></property>")
+        + pages + QLatin1String("</widget>"));
 }
 
 /// "p0:Title[b0] ..." in the order of the group.
-QString dump(Vexa::DrawbackBoxGroup *group)
+QString dump(QWidget *control)
 {
+    auto *group = static_cast<Vexa::DrawbackBoxGroup *>(control);
     QStringList pages;
     for (int i = 0; i < group->count(); ++i) {
         const QWidget *page = group->widget(i);
@@ -79,29 +77,25 @@ void play(QDialog *dialog, const QString &steps)
 class TestBoxEditing : public EditingTest {
     Q_OBJECT
 
-    Vexa::DrawbackBoxGroup *openGroup(const QString &titles)
+    void openGroup(const QString &titles)
     {
-        m_form = open(formWith(titles));
-        return m_form ? find<Vexa::DrawbackBoxGroup>(m_form, "group") : nullptr;
+        m_form = open(formWithPages(titles));
+        m_group = find<Vexa::DrawbackBoxGroup>(m_form, QStringLiteral("group"));
+        QVERIFY(m_group);
     }
-    bool edit(Vexa::DrawbackBoxGroup *group, const QString &steps)
+    bool edit(const UseDialog &use) { return EditingTest::edit(m_form, m_group, "Edit DrawbackBox", use); }
+    bool edit(const QString &steps)
     {
-        return EditingTest::edit(m_form, group, "Edit DrawbackBox", [&](QDialog *dialog) {
+        return edit([&](QDialog *dialog) {
             play(dialog, steps);
             press(dialog, QDialogButtonBox::Ok);
         });
     }
-    bool trigger(Vexa::DrawbackBoxGroup *group, const char *text)
-    {
-        QAction *action = m_host->menuAction(m_form, group, QLatin1String(text));
-        if (!action || !action->isEnabled())
-            return false;
-        action->trigger();
-        return true;
-    }
+    State state() const { return State(m_form, m_group, dump); }
     QUndoStack *history() const { return m_form->commandHistory(); }
 
     QPointer<FormWindow> m_form;
+    QPointer<Vexa::DrawbackBoxGroup> m_group;
 
 private slots:
     void init()
@@ -112,17 +106,15 @@ private slots:
 
     void menuDoubleClickAndFrame()
     {
-        Vexa::DrawbackBoxGroup *group = openGroup(QStringLiteral("A B"));
-        QVERIFY(group);
-        QCOMPARE(entries(m_form, group, "Edit DrawbackBox"), 1);
-        QCOMPARE(titleAfterDoubleClick(m_form, group), QStringLiteral("Edit DrawbackBoxGroup"));
-        QVERIFY(EditingTest::edit(m_form, group, "Edit DrawbackBox", [&](QDialog *dialog) {
+        openGroup(QStringLiteral("A B"));
+        QCOMPARE(entries(m_form, m_group, "Edit DrawbackBox"), 1);
+        QCOMPARE(titleAfterDoubleClick(m_form, m_group), QStringLiteral("Edit DrawbackBoxGroup"));
+        QVERIFY(edit([&](QDialog *dialog) {
             QCOMPARE(dialog->size(), QSize(550, 360));
             const auto *list = dialog->findChild<QListWidget *>();
             QCOMPARE(list->count(), 2);
             QCOMPARE(list->item(1)->text(), QStringLiteral("B"));
-            press(dialog, "showPropertiesButton");
-            QCOMPARE(PaneDriver(dialog).names().join(QLatin1Char(' ')), QStringLiteral("text tooltip data"));
+            QCOMPARE(shownPaneRows(dialog), words("text tooltip data"));
         }));
     }
 
@@ -159,45 +151,24 @@ private slots:
     {
         QFETCH(QString, titles);
         QFETCH(QString, steps);
-        QFETCH(QString, expected);
-        Vexa::DrawbackBoxGroup *group = openGroup(titles);
-        QVERIFY(group);
-        const QString before = dump(group);
-        const QString savedBefore = DesignerHost::save(m_form);
-        QVERIFY(edit(group, steps));
-
-        QCOMPARE(dump(group), expected);
+        openGroup(titles);
+        const State before = state();
+        QVERIFY(edit(steps));
+        QTEST(dump(m_group), "expected");
+        QCOMPARE(m_group->currentIndex(), m_group->count() - 1);
         QCOMPARE(history()->count(), 1);
         QCOMPARE(history()->undoText(), QStringLiteral("Change OptionRadios Contents"));
-        QVERIFY(m_form->isDirty());
-        for (int i = 0; i < group->count(); ++i)
-            QVERIFY(m_host->core()->metaDataBase()->item(group->widget(i)));
-        const QString savedAfter = DesignerHost::save(m_form);
-
-        for (int round = 0; round < 2; ++round) {
-            history()->undo();
-            QCOMPARE(dump(group), before);
-            compareTexts(DesignerHost::save(m_form), savedBefore);
-            QVERIFY(!m_form->isDirty());
-            history()->redo();
-            QCOMPARE(dump(group), expected);
-            compareTexts(DesignerHost::save(m_form), savedAfter);
-        }
-
-        FormWindow *second = open(savedAfter);
-        QVERIFY(second);
-        auto *reloaded = find<Vexa::DrawbackBoxGroup>(second, "group");
-        QVERIFY(reloaded);
-        QCOMPARE(dump(reloaded), expected);
-        QCOMPARE(DesignerHost::save(second), savedAfter);
+        for (int i = 0; i < m_group->count(); ++i)
+            QVERIFY(m_host->core()->metaDataBase()->item(m_group->widget(i)));
+        checkHistory(m_form, m_group, dump, before);
     }
 
     void okUnchangedAndCancelLeaveNoTrace()
     {
         for (const char *titles : {"A B", ""}) {
-            Vexa::DrawbackBoxGroup *group = openGroup(QLatin1String(titles));
-            QVERIFY(edit(group, QString()));
-            QVERIFY(EditingTest::edit(m_form, group, "Edit DrawbackBox", [](QDialog *dialog) {
+            openGroup(QLatin1String(titles));
+            QVERIFY(edit(QString()));
+            QVERIFY(edit([](QDialog *dialog) {
                 play(dialog, QStringLiteral("+ +"));
                 dialog->reject();
             }));
@@ -208,9 +179,9 @@ private slots:
 
     void newPagesTakeWidgets()
     {
-        Vexa::DrawbackBoxGroup *group = openGroup(QStringLiteral("A B"));
-        QVERIFY(edit(group, QStringLiteral("+1")));
-        QWidget *page = group->widget(2);
+        openGroup(QStringLiteral("A B"));
+        QVERIFY(edit(QStringLiteral("+1")));
+        QWidget *page = m_group->widget(2);
         QTRY_VERIFY(page->isVisible() && page->height() > 20);
         QWidget *control = m_host->drop(
             m_form, QStringLiteral("Vexa::CmdButton"), page->mapTo(m_form.data(), QPoint(10, 10)));
@@ -220,12 +191,12 @@ private slots:
         const QString saved = DesignerHost::save(m_form);
         QCOMPARE(reopened(saved), saved);
 
-        QVERIFY(edit(group, QStringLiteral("u2 u1")));
-        QCOMPARE(dump(group), QStringLiteral("page:New Item[%1], p0:A[b0], p1:B[b1]").arg(name));
-        QVERIFY(edit(group, QStringLiteral("-0")));
+        QVERIFY(edit(QStringLiteral("u2 u1")));
+        QCOMPARE(dump(m_group), QStringLiteral("page:New Item[%1], p0:A[b0], p1:B[b1]").arg(name));
+        QVERIFY(edit(QStringLiteral("-0")));
         QVERIFY(!m_form->isManaged(control));
         history()->setIndex(0);
-        QCOMPARE(dump(group), QStringLiteral("p0:A[b0], p1:B[b1]"));
+        QCOMPARE(dump(m_group), QStringLiteral("p0:A[b0], p1:B[b1]"));
         history()->setIndex(4);
         history()->setIndex(2);
         QCOMPARE(DesignerHost::save(m_form), saved);
@@ -236,9 +207,9 @@ private slots:
     /// What leaves the form is neither selected nor shown in the property editor.
     void nothingOfALeavingBoxStaysSelected()
     {
-        Vexa::DrawbackBoxGroup *group = openGroup(QStringLiteral("A B"));
-        auto *button = find<QPushButton>(m_form, "b1");
-        QVERIFY(edit(group, QStringLiteral("-1")));
+        openGroup(QStringLiteral("A B"));
+        auto *button = find<QPushButton>(m_form, QStringLiteral("b1"));
+        QVERIFY(edit(QStringLiteral("-1")));
         history()->undo();
         DesignerHost::select(m_form, button);
         QCoreApplication::processEvents();
@@ -250,7 +221,7 @@ private slots:
         history()->undo();
         QVERIFY(m_form->isManaged(button));
 
-        m_host->core()->propertyEditor()->setObject(group->widget(1));
+        m_host->core()->propertyEditor()->setObject(m_group->widget(1));
         history()->redo();
         history()->clear();
         QCoreApplication::processEvents();
@@ -269,33 +240,31 @@ private slots:
     void worksWithDesignersOwnPageCommands()
     {
         QFETCH(QString, steps);
-        Vexa::DrawbackBoxGroup *group = openGroup(QStringLiteral("A B"));
+        openGroup(QStringLiteral("A B"));
         // What undoing and redoing each step has to give is what was there before and after it.
-        QVector<QPair<QString, QString>> states{{dump(group), DesignerHost::save(m_form)}};
+        QVector<State> states{state()};
         for (const QString &step : steps.split(QStringLiteral(", "))) {
             if (step == QLatin1String("i"))
-                QVERIFY(trigger(group, "Insert Page After Current Page"));
+                QVERIFY(trigger(m_form, m_group, "Insert Page After Current Page"));
             else if (step == QLatin1String("x"))
-                QVERIFY(trigger(group, "Delete"));
+                QVERIFY(trigger(m_form, m_group, "Delete"));
             else
-                QVERIFY(edit(group, step));
+                QVERIFY(edit(step));
             QCOMPARE(history()->count(), states.size());
-            states.append({dump(group), DesignerHost::save(m_form)});
-            QVERIFY(states.last() != states.at(states.size() - 2));
+            states += state();
+            QVERIFY(states.last().saved != states.at(states.size() - 2).saved);
         }
+        const auto goTo = [&](int index) {
+            history()->setIndex(index);
+            compareStates(state(), states.at(index));
+        };
         for (int round = 0; round < 2; ++round) {
-            for (int i = states.size() - 2; i >= 0; --i) {
-                history()->undo();
-                QCOMPARE(dump(group), states.at(i).first);
-                compareTexts(DesignerHost::save(m_form), states.at(i).second);
-            }
-            for (int i = 1; i < states.size(); ++i) {
-                history()->redo();
-                QCOMPARE(dump(group), states.at(i).first);
-                compareTexts(DesignerHost::save(m_form), states.at(i).second);
-            }
+            for (int i = states.size() - 2; i >= 0; --i)
+                goTo(i);
+            for (int i = 1; i < states.size(); ++i)
+                goTo(i);
         }
-        QCOMPARE(reopened(states.last().second), states.last().second);
+        QCOMPARE(reopened(states.last().saved), states.last().saved);
     }
 
     /// Whatever goes first, every page goes exactly once.
@@ -310,14 +279,14 @@ private slots:
     void endsInAnyOrder()
     {
         QFETCH(QString, ending);
-        QPointer<Vexa::DrawbackBoxGroup> group = openGroup(QStringLiteral("A B C"));
+        openGroup(QStringLiteral("A B C"));
         QVector<QPointer<QWidget>> pages;
         for (int i = 0; i < 3; ++i)
-            pages += group->widget(i);
-        QVERIFY(edit(group, QStringLiteral("+2 +3")));
-        pages << group->widget(3) << group->widget(4);
+            pages += m_group->widget(i);
+        QVERIFY(edit(QStringLiteral("+2 +3")));
+        pages << m_group->widget(3) << m_group->widget(4);
         for (const char *steps : {"-4", "-0", "u1"})
-            QVERIFY(edit(group, QLatin1String(steps)));
+            QVERIFY(edit(QLatin1String(steps)));
         QVERIFY(!pages.contains(nullptr));
         const QString saved = DesignerHost::save(m_form);
         for (const QString &step : ending.split(QStringLiteral(", "))) {
@@ -325,18 +294,18 @@ private slots:
                 history()->setIndex(2);
             } else if (step == QLatin1String("undo all")) {
                 history()->setIndex(0);
-                QCOMPARE(group->count(), 3);
+                QCOMPARE(m_group->count(), 3);
             } else if (step == QLatin1String("clear")) {
                 history()->clear();
                 for (const QPointer<QWidget> &page : qAsConst(pages))
-                    QVERIFY(page.isNull() || group->isAncestorOf(page));
-                QCOMPARE(5 - pages.count(nullptr), group->count());
+                    QVERIFY(page.isNull() || m_group->isAncestorOf(page));
+                QCOMPARE(5 - pages.count(nullptr), m_group->count());
             } else if (step == QLatin1String("overwrite")) {
-                QVERIFY(edit(group, QStringLiteral("0=X")));
+                QVERIFY(edit(QStringLiteral("0=X")));
                 QCOMPARE(pages.count(nullptr), 2);
             } else if (step == QLatin1String("delete group")) {
-                m_form->unmanageWidget(group);
-                delete group;
+                m_form->unmanageWidget(m_group);
+                delete m_group.data();
                 history()->setIndex(0);
                 history()->setIndex(4);
             } else if (step == QLatin1String("reload")) {

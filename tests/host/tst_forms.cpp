@@ -1,4 +1,5 @@
 #include "hosttest.h"
+#include "testdata.h"
 
 #include <QtDesigner/QDesignerExtraInfoExtension>
 #include <QtDesigner/QDesignerFormEditorInterface>
@@ -11,14 +12,6 @@
 #include <QtWidgets/QUndoStack>
 
 namespace {
-
-QString formWith(const QString &body)
-{
-    return QLatin1String("<ui version=\"4.0\"><class>Form</class><widget class=\"QWidget\" name=\"Form\">"
-                         "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>600</width>"
-                         "<height>500</height></rect></property>")
-        + body + QLatin1String("</widget></ui>");
-}
 
 QString widget(const char *control, const QString &body)
 {
@@ -61,60 +54,46 @@ private slots:
     /// Contents that were set past the property sheet, as the contents commands do it.
     void extraDataSurvives_data()
     {
-        QTest::addColumn<QString>("control");
-        QTest::addColumn<QVariantMap>("contents");
-        const QStringList texts{
-            QStringLiteral("a"), QString(), QString::fromUtf8("\xf0\x9f\x98\x80 <\"&>\n\xd7\xa9")};
-        const QStringList icons{QStringLiteral(":/no/such.png"), QStringLiteral("x.svg")};
-        const QStringList one{QStringLiteral("only")};
-        const QString t = QStringLiteral("textList"), i = QStringLiteral("iconList"),
-                      tips = QStringLiteral("toolTips"), d = QStringLiteral("dataList"),
-                      a = QStringLiteral("actionList"), row = QStringLiteral("row"),
-                      column = QStringLiteral("column");
+        QTest::addColumn<QStringList>("lists");
         for (const char *options : {"OptionButtons", "OptionRadios"})
-            QTest::newRow(options) << options << QVariantMap{{t, texts}, {i, icons}, {tips, one}, {d, texts}};
-        QTest::newRow("OptionComboBox") << "OptionComboBox" << QVariantMap{{t, one}, {i, icons}, {d, texts}};
-        QTest::newRow("CheckableTextComboBox")
-            << "CheckableTextComboBox" << QVariantMap{{QStringLiteral("itemTextList"), texts}, {tips, one}};
+            QTest::newRow(options) << words("textList iconList toolTips dataList");
+        QTest::newRow("OptionComboBox") << words("textList iconList dataList");
+        QTest::newRow("CheckableTextComboBox") << words("itemTextList toolTips");
         for (const char *matrix :
             {"MatrixPushButtons", "MatrixRadioButtons", "MatrixCheckBoxes", "MatrixPopButtons"})
-            QTest::newRow(matrix) << matrix
-                                  << QVariantMap{{t, texts}, {i, icons}, {tips, one}, {a, texts}, {row, 3},
-                                         {column, 7}};
+            QTest::newRow(matrix) << words("textList iconList toolTips actionList row column");
     }
     void extraDataSurvives()
     {
-        QFETCH(QString, control);
-        QFETCH(QVariantMap, contents);
+        QFETCH(QStringList, lists);
+        const QStringList texts{
+            QStringLiteral("a"), QString(), QString::fromUtf8("\xf0\x9f\x98\x80 <\"&>\n\xd7\xa9")};
+        const QVariantMap contents{{QStringLiteral("iconList"), words(":/no/such.png x.svg")},
+            {QStringLiteral("toolTips"), words("only")}, {QStringLiteral("row"), 3u},
+            {QStringLiteral("column"), 7u}};
         FormWindow *form = newForm();
-        QWidget *dropped = m_host->drop(form, QLatin1String("Vexa::") + control, QPoint(40, 40));
-        QVERIFY(dropped);
-        for (auto it = contents.cbegin(); it != contents.cend(); ++it)
-            QVERIFY2(dropped->setProperty(qPrintable(it.key()), it.value()), qPrintable(it.key()));
+        QWidget *dropped = drop(form, QTest::currentDataTag());
+        for (const QString &list : lists)
+            QVERIFY2(dropped->setProperty(qPrintable(list), contents.value(list, texts)), qPrintable(list));
         const QString saved = DesignerHost::save(form);
-        const QByteArray name = dropped->objectName().toLatin1();
 
         FormWindow *second = open(saved);
         QVERIFY(second);
-        const QWidget *loaded = find<QWidget>(second, name.constData());
+        const QWidget *loaded = find<QWidget>(second, dropped->objectName());
         QVERIFY(loaded);
-        for (auto it = contents.cbegin(); it != contents.cend(); ++it) {
-            if (it.value().type() == QVariant::StringList)
-                QCOMPARE(loaded->property(qPrintable(it.key())).toStringList(), it.value().toStringList());
-            else
-                QCOMPARE(loaded->property(qPrintable(it.key())).toInt(), it.value().toInt());
+        for (const QString &list : lists) {
+            QCOMPARE(loaded->property(qPrintable(list)), contents.value(list, texts));
+            // Nothing is written twice.
+            QVERIFY(saved.count(QLatin1String("<property name=\"") + list + QLatin1Char('"')) <= 1);
         }
         compareTexts(DesignerHost::save(second), saved);
-        // Nothing is written twice.
-        for (auto it = contents.cbegin(); it != contents.cend(); ++it)
-            QVERIFY(saved.count(QLatin1String("<property name=\"") + it.key() + QLatin1Char('"')) <= 1);
     }
 
     void copyAndPasteKeepsExtraData()
     {
         FormWindow *form = newForm();
-        QWidget *original = m_host->drop(form, QStringLiteral("Vexa::OptionRadios"), QPoint(40, 40));
-        const QStringList texts{QStringLiteral("One"), QStringLiteral("Two")};
+        QWidget *original = drop(form, "OptionRadios");
+        const QStringList texts = words("One Two");
         original->setProperty("textList", texts);
         DesignerHost::select(form, original);
         m_host->core()->formWindowManager()->actionCopy()->trigger();
@@ -158,44 +137,44 @@ private slots:
     {
         QTest::addColumn<QString>("ui");
         QTest::addColumn<QStringList>("kept");
-        QTest::newRow("item without properties") << formWith(widget("OptionButtons",
-            QStringLiteral("<item/><item>%1</item>").arg(prop("text", "<string>second</string>"))))
-                                                 << QStringList{QStringLiteral("second")};
-        QTest::newRow("item of the wrong type") << formWith(widget("OptionRadios",
-            QStringLiteral("<item>%1%2</item>")
-                .arg(prop("text", "<number>7</number>"), prop("data", "<string>kept</string>"))))
-                                                << QStringList{QStringLiteral("kept")};
-        QTest::newRow("combo box item with a wrong action") << formWith(widget("ComboBox",
-            QStringLiteral("<item>%1%2</item>")
-                .arg(prop("text", "<string>kept</string>"), prop("action", "<bool>true</bool>"))))
-                                                            << QStringList{QStringLiteral("kept")};
-        QTest::newRow("unknown property") << formWith(widget("Distance",
-            prop("noSuchProperty", "<number>1</number>") + prop("title", "<string>kept</string>")))
-                                          << QStringList{QStringLiteral("kept")};
+        const auto row = [](const char *name, const QString &body, const char *kept = "kept") {
+            QTest::newRow(name) << formWith(body) << words(kept);
+        };
+        row("item without properties",
+            widget("OptionButtons",
+                QLatin1String("<item/><item>") + prop("text", "<string>kept</string>")
+                    + QLatin1String("</item>")));
+        row("item of the wrong type",
+            widget("OptionRadios",
+                QLatin1String("<item>") + prop("text", "<number>7</number>")
+                    + prop("data", "<string>kept</string>") + QLatin1String("</item>")));
+        row("combo box item with a wrong action",
+            widget("ComboBox",
+                QLatin1String("<item>") + prop("text", "<string>kept</string>")
+                    + prop("action", "<bool>true</bool>") + QLatin1String("</item>")));
+        row("unknown property",
+            widget("Distance",
+                prop("noSuchProperty", "<number>1</number>") + prop("title", "<string>kept</string>")));
+        const QString list = prop("textList", "<stringlist><string>kept</string></stringlist>");
         for (const char *matrix : {"MatrixPushButtons", "MatrixPopButtons"}) {
-            QTest::addRow("huge %s", matrix)
-                << formWith(widget(matrix,
-                       prop("row", "<number>2147483647</number>") + prop("column", "<UInt>4294967295</UInt>")
-                           + prop("textList", "<stringlist><string>kept</string></stringlist>")))
-                << QStringList{
-                       QStringLiteral("kept"), QStringLiteral("2147483647"), QStringLiteral("4294967295")};
-            QTest::addRow("negative %s", matrix) << formWith(widget(matrix,
-                prop("row", "<number>-5</number>")
-                    + prop("textList", "<stringlist><string>kept</string></stringlist>")))
-                                                 << QStringList{QStringLiteral("kept")};
+            row(qPrintable(QLatin1String("huge ") + QLatin1String(matrix)),
+                widget(matrix,
+                    prop("row", "<number>2147483647</number>") + prop("column", "<UInt>4294967295</UInt>")
+                        + list),
+                "kept 2147483647 4294967295");
+            row(qPrintable(QLatin1String("negative ") + QLatin1String(matrix)),
+                widget(matrix, prop("row", "<number>-5</number>") + list));
         }
-        QTest::newRow("group with a huge current index") << formWith(widget("DrawbackBoxGroup",
-            prop("currentIndex", "<number>99999</number>")
-                + QStringLiteral("<widget class=\"QWidget\" name=\"kept\"/>")))
-                                                         << QStringList{QStringLiteral("kept")};
-        QTest::newRow("class of another plugin")
-            << formWith(QStringLiteral("<widget class=\"Other::Knob\" name=\"knob\">%1</widget>")
-                            .arg(prop("toolTip", "<string>kept</string>")))
-                   .replace(QLatin1String("</ui>"),
-                       QLatin1String(
-                           "<customwidgets><customwidget><class>Other::Knob</class><extends>QWidget</extends>"
-                           "<header>knob.h</header></customwidget></customwidgets></ui>"))
-            << QStringList{QStringLiteral("Other::Knob"), QStringLiteral("kept"), QStringLiteral("knob.h")};
+        row("group with a huge current index",
+            widget("DrawbackBoxGroup",
+                prop("currentIndex", "<number>99999</number>")
+                    + QLatin1String("<widget class=\"QWidget\" name=\"kept\"/>")));
+        QTest::newRow("class of another plugin") << formWith(
+            QStringLiteral("<widget class=\"Other::Knob\" name=\"knob\">%1</widget>")
+                .arg(prop("toolTip", "<string>kept</string>")),
+            QStringLiteral("<customwidgets><customwidget><class>Other::Knob</class>"
+                           "<extends>QWidget</extends><header>knob.h</header></customwidget>"
+                           "</customwidgets>")) << words("Other::Knob kept knob.h");
     }
     void strangeFormsOpenAndKeepWhatIsReadable()
     {

@@ -9,12 +9,11 @@
 namespace {
 
 struct Kind {
-    const char *control;
+    const char *name;
     const char *title;
     const char *undoText;
     bool sizeByProperties;
 };
-
 const Kind kinds[] = {
     {"MatrixPushButtons", "Edit Matrix buttons", "Change MatrixButtons Contents", true},
     {"MatrixRadioButtons", "Edit Matrix buttons", "Change MatrixButtons Contents", true},
@@ -22,21 +21,46 @@ const Kind kinds[] = {
     {"MatrixPopButtons", "Edit Matrix PopButtons", "Change MatrixPopButtons Contents", false},
 };
 
-void addKinds()
-{
-    QTest::addColumn<int>("kind");
-    for (int i = 0; i < int(std::size(kinds)); ++i)
-        QTest::newRow(kinds[i].control) << i;
-}
+struct Size {
+    const char *name;
+    unsigned int rows, columns;
+    const char *list;
+    const char *shown; ///< null where it is too much to compare
+    QSize table;
+    int rowSpin;
+    bool cleanAfterOk;
+};
+const Size sizes[] = {
+    {"one", 1, 1, "a", "a", {1, 1}, 1, true},
+    {"more cells than texts", 2, 3, "a,b,c,d", "a,b,c/d,,", {3, 2}, 2, true},
+    {"more texts than cells", 2, 1, "a,b,c,d", "a/b", {1, 2}, 2, true},
+    {"no rows", 0, 3, "a", "", {3, 0}, 1, true},
+    {"the most", 99, 99, "a", nullptr, {99, 99}, 99, true},
+    {"too many", 4294967295u, 4294967295u, "a", nullptr, {99, 99}, 99, false},
+};
 
-const Kind &currentKind()
-{
-    QFETCH(int, kind);
-    return kinds[kind];
-}
+struct Resize {
+    const char *name;
+    QPoint start; ///< column, row
+    const char *spinBox;
+    const char *property;
+    int value;
+    QPoint current;
+    const char *shown;
+};
+const QPoint none(-1, -1);
+const Resize resizes[] = {
+    {"less rows", {2, 0}, "rowCounts", "row", 2, {1, 1}, "a,b,c/d,e,f"},
+    {"more rows", {1, 2}, "rowCounts", "row", 4, {0, 3}, "a,b,c/d,e,f/g,h,i/,,"},
+    {"less columns", {0, 2}, "colCounts", "column", 1, {0, 1}, "a/d/g"},
+    {"more columns", {2, 1}, "colCounts", "column", 4, {3, 0}, "a,b,c,/d,e,f,/g,h,i,"},
+    {"rows, first column", {0, 2}, "rowCounts", "row", 2, none, "a,b,c/d,e,f"},
+    {"columns, first row", {1, 0}, "colCounts", "column", 2, none, "a,b/d,e/g,h"},
+    {"no current cell", none, "rowCounts", "row", 2, none, "a,b,c/d,e,f"},
+};
 
 /// Size and lists of a matrix, as in "2x3 a,b,c|icons|tool tips|actions".
-QString dump(const QWidget *matrix)
+QString dump(QWidget *matrix)
 {
     QStringList lists;
     for (const char *list : {"textList", "iconList", "toolTips", "actionList"})
@@ -45,13 +69,6 @@ QString dump(const QWidget *matrix)
                .arg(matrix->property("row").toUInt())
                .arg(matrix->property("column").toUInt())
         + lists.join(QLatin1Char('|'));
-}
-
-void setGrid(QWidget *matrix, unsigned int rows, unsigned int columns, const QString &texts)
-{
-    matrix->setProperty("row", rows);
-    matrix->setProperty("column", columns);
-    matrix->setProperty("textList", texts.isEmpty() ? QStringList() : texts.split(QLatin1Char(',')));
 }
 
 QTableWidget *table(const QDialog *dialog) { return dialog->findChild<QTableWidget *>(); }
@@ -92,9 +109,14 @@ void typeIntoCell(QDialog *dialog, int row, int column, const QString &text)
 class TestGridEditing : public EditingTest {
     Q_OBJECT
 
-    QWidget *drop(FormWindow *form, const Kind &kind)
+    QWidget *drop(
+        FormWindow *form, const Kind &kind, unsigned int rows, unsigned int columns, const char *texts)
     {
-        return m_host->drop(form, QLatin1String("Vexa::") + QLatin1String(kind.control), QPoint(60, 60));
+        QWidget *matrix = HostTest::drop(form, kind.name);
+        matrix->setProperty("row", rows);
+        matrix->setProperty("column", columns);
+        matrix->setProperty("textList", QString::fromLatin1(texts).split(QLatin1Char(',')));
+        return matrix;
     }
     bool edit(FormWindow *form, QWidget *matrix, const UseDialog &use)
     {
@@ -102,12 +124,12 @@ class TestGridEditing : public EditingTest {
     }
 
 private slots:
-    void dialogOpensFromMenuAndDoubleClick_data() { addKinds(); }
+    void dialogOpensFromMenuAndDoubleClick_data() { addRows(kinds); }
     void dialogOpensFromMenuAndDoubleClick()
     {
-        const Kind &kind = currentKind();
+        const Kind &kind = currentRow(kinds);
         FormWindow *form = newForm();
-        QWidget *matrix = drop(form, kind);
+        QWidget *matrix = HostTest::drop(form, kind.name);
         QCOMPARE(entries(form, matrix, "Edit Buttons"), 1);
         QCOMPARE(titleAfterDoubleClick(form, matrix), QLatin1String(kind.title));
         QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
@@ -119,33 +141,22 @@ private slots:
                 QCOMPARE(spin(dialog, name)->maximum(), 99);
             }
             QCOMPARE(table(dialog)->selectionMode(), QAbstractItemView::SingleSelection);
-            const auto *toggle = dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton"));
-            QCOMPARE(toggle->text(), QStringLiteral("Properties &<<"));
-            const PaneDriver pane(dialog);
-            QVERIFY(!pane.tree()->isVisible());
-            press(dialog, "showPropertiesButton");
-            QVERIFY(pane.tree()->isVisible());
-            QCOMPARE(toggle->text(), QStringLiteral("Properties &>>"));
-            QCOMPARE(pane.names(), words("text icon toolTip action"));
+            QCOMPARE(shownPaneRows(dialog), words("text icon toolTip action"));
         }));
     }
 
-    void everyFieldIsEditedUndoneAndSaved_data() { addKinds(); }
+    void everyFieldIsEditedUndoneAndSaved_data() { addRows(kinds); }
     void everyFieldIsEditedUndoneAndSaved()
     {
-        const Kind &kind = currentKind();
+        const Kind &kind = currentRow(kinds);
         const QString image = imageFile();
         FormWindow *form = newForm();
-        QWidget *matrix = drop(form, kind);
-        const QString name = matrix->objectName();
-        setGrid(matrix, 2, 2, QStringLiteral("a,b,,"));
+        QWidget *matrix = drop(form, kind, 2, 2, "a,b,,");
         for (const char *list : {"iconList", "toolTips", "actionList"})
             matrix->setProperty(list, QStringLiteral("i,,,").split(QLatin1Char(',')));
-        const QString original = dump(matrix);
         QUndoStack *history = form->commandHistory();
-        const int steps = history->count();
         history->setClean();
-        const QString before = DesignerHost::save(form);
+        const State before(form, matrix, dump);
 
         QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
             QCOMPARE(texts(dialog), QStringLiteral("a,b/,"));
@@ -163,144 +174,71 @@ private slots:
             press(dialog, "okButton");
         }));
 
-        const QString expected
-            = QStringLiteral("3x2 a,in place,,,\u05e9 \"1\",|i,,,,%1,|i,,,,tip,|i,,,,go,").arg(image);
-        QCOMPARE(dump(matrix), expected);
-        QCOMPARE(history->count(), steps + (kind.sizeByProperties ? 3 : 1));
-        QCOMPARE(history->text(steps), QLatin1String(kind.undoText));
+        QCOMPARE(dump(matrix),
+            QStringLiteral("3x2 a,in place,,,\u05e9 \"1\",|i,,,,%1,|i,,,,tip,|i,,,,go,").arg(image));
+        QCOMPARE(history->count(), before.index + (kind.sizeByProperties ? 3 : 1));
+        QCOMPARE(history->text(before.index), QLatin1String(kind.undoText));
         if (kind.sizeByProperties) {
-            QVERIFY(history->text(steps + 1).contains(QLatin1String("'row'")));
-            QVERIFY(history->text(steps + 2).contains(QLatin1String("'column'")));
+            QVERIFY(history->text(before.index + 1).contains(QLatin1String("'row'")));
+            QVERIFY(history->text(before.index + 2).contains(QLatin1String("'column'")));
             const QDesignerPropertySheetExtension *sheet = m_host->propertySheet(matrix);
             QVERIFY(sheet->isChanged(sheet->indexOf(QStringLiteral("row"))));
         }
-        const QString after = DesignerHost::save(form);
-        QVERIFY(after != before);
-
-        for (int round = 0; round < 2; ++round) {
-            while (history->index() > steps)
-                history->undo();
-            QCOMPARE(dump(matrix), original);
-            QVERIFY(!form->isDirty());
-            QCOMPARE(DesignerHost::save(form), before);
-            while (history->canRedo())
-                history->redo();
-            QCOMPARE(dump(matrix), expected);
-            QCOMPARE(DesignerHost::save(form), after);
-        }
-
-        FormWindow *second = open(after);
-        QVERIFY(second);
-        QWidget *reloaded = find<QWidget>(second, name.toLatin1());
-        QVERIFY(reloaded);
-        QCOMPARE(dump(reloaded), expected);
-        QCOMPARE(DesignerHost::save(second), after);
+        checkHistory(form, matrix, dump, before);
     }
 
-    void everySizeCanBeEdited_data()
-    {
-        QTest::addColumn<unsigned int>("rows");
-        QTest::addColumn<unsigned int>("columns");
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<QString>("shown");
-        QTest::addColumn<QSize>("tableSize");
-        QTest::addColumn<QSize>("spinSize");
-        QTest::addColumn<bool>("cleanAfterOk");
-        const auto row = [](unsigned int rows, unsigned int columns, const char *list, const char *shown,
-                             const QSize &table, const QSize &spins, bool clean = true) {
-            QTest::addRow("%u x %u, %s", rows, columns, list)
-                << rows << columns << list << QString::fromLatin1(shown) << table << spins << clean;
-        };
-        row(1, 1, "a", "a", {1, 1}, {1, 1});
-        row(2, 3, "a,b,c,d", "a,b,c/d,,", {3, 2}, {3, 2});
-        row(2, 1, "a,b,c,d", "a/b", {1, 2}, {1, 2});
-        row(0, 3, "a", "", {3, 0}, {3, 1});
-        row(99, 99, "a", nullptr, {99, 99}, {99, 99});
-        row(4294967295u, 4294967295u, "a", nullptr, {99, 99}, {99, 99}, false);
-    }
+    void everySizeCanBeEdited_data() { addRows(sizes); }
     void everySizeCanBeEdited()
     {
-        QFETCH(unsigned int, rows);
-        QFETCH(unsigned int, columns);
-        QFETCH(QString, list);
-        QFETCH(QString, shown);
-        QFETCH(QSize, tableSize);
-        QFETCH(QSize, spinSize);
-        QFETCH(bool, cleanAfterOk);
+        const Size &size = currentRow(sizes);
         for (const Kind &kind : kinds) {
             // Thousands of buttons take their time, and the three button matrices are read alike.
-            if (tableSize.width() > 50 && &kind != &kinds[0] && kind.sizeByProperties)
+            if (size.table.width() > 50 && &kind != &kinds[0] && kind.sizeByProperties)
                 continue;
             FormWindow *form = newForm();
-            QWidget *matrix = drop(form, kind);
-            setGrid(matrix, rows, columns, list);
+            QWidget *matrix = drop(form, kind, size.rows, size.columns, size.list);
             const QString before = dump(matrix);
-            const int steps = form->commandHistory()->count();
+            QUndoStack *history = form->commandHistory();
+            const int steps = history->count();
             for (const char *button : {"cancelButton", "okButton"}) {
-                QCOMPARE(form->commandHistory()->count(), steps);
+                QCOMPARE(history->count(), steps);
                 QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
-                    QCOMPARE(QSize(table(dialog)->columnCount(), table(dialog)->rowCount()), tableSize);
-                    QCOMPARE(QSize(spin(dialog, "colCounts")->value(), spin(dialog, "rowCounts")->value()),
-                        spinSize);
-                    if (!shown.isNull())
-                        QCOMPARE(texts(dialog), shown);
+                    QCOMPARE(QSize(table(dialog)->columnCount(), table(dialog)->rowCount()), size.table);
+                    QCOMPARE(spin(dialog, "colCounts")->value(), size.table.width());
+                    QCOMPARE(spin(dialog, "rowCounts")->value(), size.rowSpin);
+                    if (size.shown)
+                        QCOMPARE(texts(dialog), QLatin1String(size.shown));
                     press(dialog, button);
                 }));
             }
-            QCOMPARE(form->commandHistory()->count() == steps, cleanAfterOk);
-            while (form->commandHistory()->index() > steps)
-                form->commandHistory()->undo();
+            QCOMPARE(history->count() == steps, size.cleanAfterOk);
+            history->setIndex(steps);
             QVERIFY(dump(matrix).startsWith(before.left(before.indexOf(QLatin1Char('|')))));
             close(form);
         }
     }
 
-    void spinBoxesMoveTheCurrentCell_data()
-    {
-        QTest::addColumn<QPoint>("start"); // column, row
-        QTest::addColumn<QString>("spinBox");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<QPoint>("current");
-        QTest::addColumn<QString>("shown");
-        const auto row = [](const char *name, const QPoint &start, const char *spinBox, int value,
-                             const QPoint &current, const char *shown) {
-            QTest::newRow(name) << start << spinBox << value << current << shown;
-        };
-        const QPoint none(-1, -1);
-        row("less rows", {2, 0}, "rowCounts", 2, {1, 1}, "a,b,c/d,e,f");
-        row("more rows", {1, 2}, "rowCounts", 4, {0, 3}, "a,b,c/d,e,f/g,h,i/,,");
-        row("less columns", {0, 2}, "colCounts", 1, {0, 1}, "a/d/g");
-        row("more columns", {2, 1}, "colCounts", 4, {3, 0}, "a,b,c,/d,e,f,/g,h,i,");
-        row("rows, first column", {0, 2}, "rowCounts", 2, none, "a,b,c/d,e,f");
-        row("columns, first row", {1, 0}, "colCounts", 2, none, "a,b/d,e/g,h");
-        row("no current cell", none, "rowCounts", 2, none, "a,b,c/d,e,f");
-    }
+    void spinBoxesMoveTheCurrentCell_data() { addRows(resizes); }
     void spinBoxesMoveTheCurrentCell()
     {
-        QFETCH(QPoint, start);
-        QFETCH(QString, spinBox);
-        QFETCH(int, value);
-        QFETCH(QPoint, current);
-        QFETCH(QString, shown);
+        const Resize &resize = currentRow(resizes);
         for (const Kind &kind : kinds) {
             FormWindow *form = newForm();
-            QWidget *matrix = drop(form, kind);
-            setGrid(matrix, 3, 3, QStringLiteral("a,b,c,d,e,f,g,h,i"));
+            QWidget *matrix = drop(form, kind, 3, 3, "a,b,c,d,e,f,g,h,i");
             QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
                 press(dialog, "showPropertiesButton");
                 PaneDriver pane(dialog);
-                table(dialog)->setCurrentCell(start.y(), start.x());
-                spin(dialog, qPrintable(spinBox))->setValue(value);
-                QCOMPARE(QPoint(table(dialog)->currentColumn(), table(dialog)->currentRow()), current);
-                QCOMPARE(texts(dialog), shown);
+                table(dialog)->setCurrentCell(resize.start.y(), resize.start.x());
+                spin(dialog, resize.spinBox)->setValue(resize.value);
+                QCOMPARE(QPoint(table(dialog)->currentColumn(), table(dialog)->currentRow()), resize.current);
+                QCOMPARE(texts(dialog), QLatin1String(resize.shown));
                 // The pane stands for the current cell, so without one it takes no input.
-                QCOMPARE(pane.names().size(), current.x() < 0 ? 0 : 4);
+                QCOMPARE(pane.names().size(), resize.current == none ? 0 : 4);
                 table(dialog)->setCurrentCell(0, 0);
                 QCOMPARE(pane.names().size(), 4);
                 press(dialog, "okButton");
             }));
-            QCOMPARE(
-                matrix->property(spinBox == QLatin1String("rowCounts") ? "row" : "column").toInt(), value);
+            QCOMPARE(matrix->property(resize.property).toInt(), resize.value);
             close(form);
         }
     }
@@ -308,8 +246,7 @@ private slots:
     void lessRowsAndBackEmptiesThem()
     {
         FormWindow *form = newForm();
-        QWidget *matrix = drop(form, kinds[3]);
-        setGrid(matrix, 3, 1, QStringLiteral("a,b,c"));
+        QWidget *matrix = drop(form, kinds[3], 3, 1, "a,b,c");
         QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
             spin(dialog, "rowCounts")->setValue(2);
             spin(dialog, "rowCounts")->setValue(3);
@@ -328,8 +265,7 @@ private slots:
     void typingTheSameTextAgainIsNoChange()
     {
         FormWindow *form = newForm();
-        QWidget *matrix = drop(form, kinds[0]);
-        setGrid(matrix, 1, 2, QStringLiteral("a"));
+        QWidget *matrix = drop(form, kinds[0], 1, 2, "a");
         const int steps = form->commandHistory()->count();
         QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
             typeIntoCell(dialog, 0, 0, QStringLiteral("b"));

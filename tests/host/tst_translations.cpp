@@ -1,18 +1,11 @@
 // The installed catalogues: menus, dialogs and undo texts in the languages of the host.
 
-#include "hosttest.h"
+#include "editingtest.h"
 
 #include <QtCore/QTranslator>
-#include <QtWidgets/QAction>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
-#include <QtWidgets/QToolButton>
-#include <QtWidgets/QUndoStack>
 
 namespace {
 
@@ -32,8 +25,6 @@ constexpr Expected expectedTexts[] = {
     {"de", "OptionButtons", "Schaltflächen bearbeiten", "Optionsschaltflächen bearbeiten", "Inhalt der Optionsschaltflächen ändern"},
     {"de", "OptionRadios", "Schaltflächen bearbeiten", "Optionsfelder bearbeiten", "Inhalt der Optionsfelder ändern"},
     {"de", "MatrixPushButtons", "Schaltflächen bearbeiten", "Schaltflächenmatrix bearbeiten", "Inhalt der Schaltflächenmatrix ändern"},
-    {"de", "MatrixRadioButtons", "Schaltflächen bearbeiten", "Schaltflächenmatrix bearbeiten", "Inhalt der Schaltflächenmatrix ändern"},
-    {"de", "MatrixCheckBoxes", "Schaltflächen bearbeiten", "Schaltflächenmatrix bearbeiten", "Inhalt der Schaltflächenmatrix ändern"},
     {"de", "MatrixPopButtons", "Schaltflächen bearbeiten", "Matrix der Aufklappschaltflächen bearbeiten", "Inhalt der Aufklappschaltflächen ändern"},
     {"de", "DrawbackBoxGroup", "Klappbereiche bearbeiten", "Gruppe von Klappbereichen bearbeiten", "Klappbereiche ändern"},
     {"zh_CN", "ComboBox", "编辑项", "编辑组合框", ""},
@@ -42,8 +33,6 @@ constexpr Expected expectedTexts[] = {
     {"zh_CN", "OptionButtons", "编辑按钮", "编辑选项按钮", "更改选项按钮内容"},
     {"zh_CN", "OptionRadios", "编辑按钮", "编辑选项单选按钮", "更改选项单选按钮内容"},
     {"zh_CN", "MatrixPushButtons", "编辑按钮", "编辑矩阵按钮", "更改矩阵按钮内容"},
-    {"zh_CN", "MatrixRadioButtons", "编辑按钮", "编辑矩阵按钮", "更改矩阵按钮内容"},
-    {"zh_CN", "MatrixCheckBoxes", "编辑按钮", "编辑矩阵按钮", "更改矩阵按钮内容"},
     {"zh_CN", "MatrixPopButtons", "编辑按钮", "编辑矩阵弹出按钮", "更改矩阵弹出按钮内容"},
     {"zh_CN", "DrawbackBoxGroup", "编辑折叠框", "编辑折叠框组", "更改折叠框内容"},
 };
@@ -53,7 +42,7 @@ QString utf8(const char *text) { return QString::fromUtf8(text); }
 
 } // namespace
 
-class TestTranslations : public HostTest {
+class TestTranslations : public EditingTest {
     Q_OBJECT
 
 private slots:
@@ -72,40 +61,32 @@ private slots:
         m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged .*"));
 
         QTranslator translator;
-        QVERIFY(translator.load(QLatin1String("sorrelplugin_") + QLatin1String(expected.language),
-            QStringLiteral(CATALOGUES)));
+        QVERIFY(translator.load(
+            QLatin1String("sorrelplugin_") + QLatin1String(expected.language), QStringLiteral(CATALOGUES)));
         QVERIFY(QCoreApplication::installTranslator(&translator));
 
         FormWindow *form = newForm();
-        QWidget *control
-            = m_host->drop(form, QLatin1String("Vexa::") + QLatin1String(expected.control), QPoint(50, 50));
+        QWidget *control = drop(form, expected.control);
         QVERIFY(control);
         const int before = form->commandHistory()->count();
-        QAction *action = m_host->menuAction(form, control, utf8(expected.menu));
-        QVERIFY(action);
-
         QString title;
         QString properties;
         QStringList texts;
-        QTimer::singleShot(0, this, [&] {
-            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            QVERIFY(dialog);
+        QVERIFY(edit(form, control, expected.menu, [&](QDialog *dialog) {
             title = dialog->windowTitle();
-            auto *toggle = dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton"));
-            toggle->click();
-            properties = toggle->text();
+            press(dialog, "showPropertiesButton");
+            properties = dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton"))->text();
             if (auto *rows = dialog->findChild<QSpinBox *>(QStringLiteral("rowCounts"))) {
                 texts += dialog->findChild<QLabel *>(QStringLiteral("Rows"))->text();
                 texts += dialog->findChild<QLabel *>(QStringLiteral("Columns"))->text();
                 rows->setValue(rows->value() + 1);
                 dialog->accept();
             } else {
-                dialog->findChild<QToolButton *>(QStringLiteral("newListItemButton"))->click();
+                press(dialog, "newListItemButton");
                 texts += dialog->findChild<QListWidget *>()->currentItem()->text();
-                dialog->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+                press(dialog, QDialogButtonBox::Ok);
             }
-        });
-        action->trigger();
+        }));
 
         QCOMPARE(title, utf8(expected.title));
         QCOMPARE(properties, utf8(german ? "Eigenschaften &>>" : "属性 &>>"));
@@ -124,7 +105,8 @@ private slots:
         QCOMPARE(QCoreApplication::translate("Command", text, "drawback boxes"), QLatin1String(text));
         QTranslator translator;
         QVERIFY(translator.load(QStringLiteral("sorrelplugin_de"), QStringLiteral(CATALOGUES)));
-        QVERIFY(translator.translate("Command", text) != translator.translate("Command", text, "drawback boxes"));
+        QVERIFY(
+            translator.translate("Command", text) != translator.translate("Command", text, "drawback boxes"));
     }
 };
 

@@ -1,4 +1,5 @@
-#include "logwatch.h"
+#include "quiettest.h"
+#include "testdata.h"
 
 #include <QtCore/QJsonObject>
 #include <QtCore/QMetaProperty>
@@ -6,12 +7,10 @@
 #include <QtCore/QPointer>
 #include <QtCore/QProcess>
 #include <QtGui/QColor>
-#include <QtTest/QtTest>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtWidgets/QWidget>
 
 #include <cmath>
-#include <memory>
 
 namespace {
 
@@ -21,7 +20,7 @@ constexpr char A[] = "Quenta Template Widgets";
 constexpr char B[] = "Quenta Widgets";
 
 struct Expected {
-    const char *control;
+    const char *name;
     const char *group;
     const char *includeFile;
     const char *objectName;
@@ -80,27 +79,19 @@ constexpr Expected expectedControls[] = {
 };
 // clang-format on
 
-const auto controlCount = int(sizeof expectedControls / sizeof *expectedControls);
+const auto controlCount = int(std::size(expectedControls));
 
 /// A value that a control accepts in place of this one.
 QVariant another(const QVariant &value)
 {
-    switch (value.userType()) {
-    case QMetaType::Bool:
-        return !value.toBool();
-    case QMetaType::Double:
-        return value.toDouble() + 0.5;
-    case QMetaType::QString:
-        return QString(value.toString() + QLatin1Char('x'));
-    case QMetaType::QStringList:
-        return QStringList{QStringLiteral("a"), QStringLiteral("b;c"), QString(), QStringLiteral("a")};
-    case QMetaType::QColor:
-        return QColor(17, 34, 51);
-    case QMetaType::QPointF:
-        return QPointF(-3, 2.5);
-    default:
-        return value.toInt() + 1;
+    const QVariant others[] = {!value.toBool(), value.toDouble() + 0.5, value.toString() + QLatin1Char('x'),
+        QStringList{QStringLiteral("a"), QStringLiteral("b;c"), QString(), QStringLiteral("a")},
+        QColor(17, 34, 51), QPointF(-3, 2.5)};
+    for (const QVariant &other : others) {
+        if (other.userType() == value.userType())
+            return other;
     }
+    return value.toInt() + 1;
 }
 
 /// Enumerators are written as numbers and read as themselves.
@@ -124,20 +115,19 @@ QVector<QMetaProperty> ownProperties(const QWidget *control)
 
 } // namespace
 
-class TestLoader : public QObject {
+class TestLoader : public QuietTest {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_log.reset();
-        m_log = std::make_unique<LogWatch>();
+        QuietTest::init();
         m_loader.setFileName(QStringLiteral(PLUGIN_FILE));
     }
     void cleanup()
     {
         m_loader.unload();
-        QCOMPARE(m_log->takeUnexpected().join(QLatin1Char('\n')), QString());
+        QuietTest::cleanup();
     }
 
     void metadataNamesTheCollection()
@@ -159,15 +149,12 @@ private slots:
             {QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral(PLUGIN_FILE)});
         QVERIFY(nm.waitForFinished());
         QCOMPARE(nm.exitCode(), 0);
-        QStringList names;
-        const QByteArrayList lines = nm.readAllStandardOutput().split('\n');
-        for (const QByteArray &symbol : lines) {
-            if (!symbol.isEmpty())
-                names += QString::fromLatin1(symbol.split(' ').last());
-        }
-        names.sort();
-        QCOMPARE(names,
-            (QStringList{QStringLiteral("qt_plugin_instance"), QStringLiteral("qt_plugin_query_metadata")}));
+        QByteArrayList names;
+        const QByteArrayList lines = nm.readAllStandardOutput().trimmed().split('\n');
+        for (const QByteArray &symbol : lines)
+            names += symbol.split(' ').last();
+        std::sort(names.begin(), names.end());
+        QCOMPARE(names, (QByteArrayList{"qt_plugin_instance", "qt_plugin_query_metadata"}));
     }
 
     void collectionCastsToItsInterfaceOnly()
@@ -184,30 +171,29 @@ private slots:
 
     void controlsStandInOrder()
     {
+        QStringList expected, names;
+        for (const Expected &control : expectedControls)
+            expected += QLatin1String("Vexa::") + QLatin1String(control.name);
         const QList<QDesignerCustomWidgetInterface *> descriptors = customWidgets();
-        QCOMPARE(descriptors.size(), controlCount);
-        for (int i = 0; i < controlCount; ++i)
-            QCOMPARE(descriptors.at(i)->name(),
-                QLatin1String("Vexa::") + QLatin1String(expectedControls[i].control));
+        for (const QDesignerCustomWidgetInterface *descriptor : descriptors)
+            names += descriptor->name();
+        QCOMPARE(names, expected);
     }
 
-    void descriptorAnswers_data()
-    {
-        QTest::addColumn<int>("index");
-        for (int i = 0; i < controlCount; ++i)
-            QTest::newRow(expectedControls[i].control) << i;
-    }
+    void descriptorAnswers_data() { addRows(expectedControls); }
     void descriptorAnswers()
     {
-        QFETCH(int, index);
-        const Expected &expected = expectedControls[index];
-        const QString className = QLatin1String("Vexa::") + QLatin1String(expected.control);
-        QDesignerCustomWidgetInterface *descriptor = customWidgets().value(index);
+        const Expected &expected = currentRow(expectedControls);
+        const QString className = QLatin1String("Vexa::") + QLatin1String(expected.name);
+        QDesignerCustomWidgetInterface *descriptor = currentWidget();
         QVERIFY(descriptor);
         QCOMPARE(descriptor->group(), QLatin1String(expected.group));
-        QCOMPARE(descriptor->includeFile(), QLatin1String(expected.includeFile));
+        QString includeFile = QLatin1String(expected.includeFile);
+        includeFile.chop(2);
+        includeFile += QLatin1String(HEADER_EXTENSION);
+        QCOMPARE(descriptor->includeFile(), includeFile);
         QCOMPARE(descriptor->isContainer(), expected.container);
-        const bool isPane = qstrcmp(expected.control, "Pane") == 0;
+        const bool isPane = qstrcmp(expected.name, "Pane") == 0;
         QCOMPARE(descriptor->toolTip(), QLatin1String(isPane ? "Quenta Collapsible Pane" : ""));
         QVERIFY(descriptor->whatsThis().isEmpty());
         QVERIFY(descriptor->codeTemplate().isEmpty());
@@ -224,7 +210,7 @@ private slots:
 
         auto *object = dynamic_cast<QObject *>(descriptor);
         QVERIFY(object);
-        QCOMPARE(object->metaObject()->className(), expected.control + QByteArray("Plugin"));
+        QCOMPARE(object->metaObject()->className(), expected.name + QByteArray("Plugin"));
         QCOMPARE(object->parent(), m_loader.instance());
         for (const char *name :
             {"QDesignerCustomWidgetInterface", "org.qt-project.QDesignerCustomWidgetInterface"})
@@ -233,11 +219,10 @@ private slots:
 
     /// Designer makes a throw-away instance of every control at start, before there is a form; it has no
     /// parent.
-    void makesItsControlWithoutACore_data() { descriptorAnswers_data(); }
+    void makesItsControlWithoutACore_data() { addRows(expectedControls); }
     void makesItsControlWithoutACore()
     {
-        QFETCH(int, index);
-        QDesignerCustomWidgetInterface *descriptor = customWidgets().value(index);
+        QDesignerCustomWidgetInterface *descriptor = currentWidget();
         const std::unique_ptr<QWidget> orphan(descriptor->createWidget(nullptr));
         QVERIFY(orphan);
         QCOMPARE(QString::fromLatin1(orphan->metaObject()->className()), descriptor->name());
@@ -248,12 +233,11 @@ private slots:
         QVERIFY(descriptor->isInitialized());
     }
 
-    void propertiesKeepWhatTheyTakeAndTellItOnce_data() { descriptorAnswers_data(); }
+    void propertiesKeepWhatTheyTakeAndTellItOnce_data() { addRows(expectedControls); }
     void propertiesKeepWhatTheyTakeAndTellItOnce()
     {
-        QFETCH(int, index);
         m_log->allow(QStringLiteral("QSignalSpy: Unable to handle parameter .*"));
-        const std::unique_ptr<QWidget> control(customWidgets().value(index)->createWidget(nullptr));
+        const std::unique_ptr<QWidget> control(currentWidget()->createWidget(nullptr));
         const QVector<QMetaProperty> properties = ownProperties(control.get());
         QVERIFY(control->metaObject()->indexOfProperty("id") < 0);
         for (const QMetaProperty &property : properties) {
@@ -313,6 +297,10 @@ private slots:
     }
 
 private:
+    QDesignerCustomWidgetInterface *currentWidget()
+    {
+        return customWidgets().value(&currentRow(expectedControls) - expectedControls);
+    }
     QList<QDesignerCustomWidgetInterface *> customWidgets()
     {
         auto *collection = qobject_cast<QDesignerCustomWidgetCollectionInterface *>(m_loader.instance());
@@ -320,7 +308,6 @@ private:
     }
 
     QPluginLoader m_loader;
-    std::unique_ptr<LogWatch> m_log;
 };
 
 QTEST_MAIN(TestLoader)

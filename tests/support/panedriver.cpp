@@ -1,11 +1,9 @@
 #include "panedriver.h"
 
-#include <QtCore/QPointer>
-#include <QtCore/QTimer>
 #include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
-#include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeView>
@@ -84,11 +82,17 @@ bool PaneDriver::paste(const QString &path, const QString &text)
 
 bool PaneDriver::pastePath(const QString &path, const QString &file)
 {
-    const QWidget *widget = open(path);
+    open(path);
     QGuiApplication::clipboard()->setText(file);
+    return trigger(path, "Paste Path");
+}
+
+bool PaneDriver::trigger(const QString &path, const char *text)
+{
+    const QWidget *widget = editor(path);
     const auto actions = widget ? widget->findChildren<QAction *>() : QList<QAction *>();
     for (QAction *action : actions) {
-        if (action->text() == QLatin1String("Paste Path")) {
+        if (action->text() == QLatin1String(text)) {
             action->trigger();
             return true;
         }
@@ -123,26 +127,4 @@ QLineEdit *PaneDriver::lineEdit(const QString &path) const
 {
     const QWidget *widget = editor(path);
     return widget ? widget->findChild<QLineEdit *>() : nullptr;
-}
-
-bool PaneDriver::withDialog(
-    const std::function<void()> &action, const std::function<void(QWidget *)> &inDialog)
-{
-    bool shown = false;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] {
-        QWidget *dialog = QApplication::activeModalWidget();
-        if (!dialog || !dialog->isVisible() || shown)
-            return;
-        shown = true;
-        timer.stop();
-        const QPointer<QWidget> guard(dialog);
-        inDialog(dialog);
-        // After a failure nobody else would close it.
-        if (guard)
-            guard->close();
-    });
-    timer.start(0);
-    action();
-    return shown;
 }

@@ -3,8 +3,6 @@
 #include <QtCore/QModelIndex>
 #include <QtCore/QStringList>
 
-#include <functional>
-
 class QLineEdit;
 class QToolButton;
 class QTreeView;
@@ -35,17 +33,14 @@ public:
     bool paste(const QString &path, const QString &text);
     /// Gives an icon or one of its states the path of a file.
     bool pastePath(const QString &path, const QString &file);
+    /// Triggers the action with this text in the editor that is open on a row; false where there is none.
+    bool trigger(const QString &path, const char *text);
     /// Opens a row's editor and clicks its reset button.
     void reset(const QString &path);
     /// The button at the end of an open editor, and the one that offers another way to edit.
     QToolButton *resetButton(const QString &path) const;
     QToolButton *moreButton(const QString &path) const;
     QLineEdit *lineEdit(const QString &path) const;
-
-    /// Calls \a action, which opens a modal dialog, and \a inDialog with that dialog; it has to close it.
-    /// False if no dialog came up.
-    static bool withDialog(
-        const std::function<void()> &action, const std::function<void(QWidget *)> &inDialog);
 
 private:
     QToolButton *button(const QString &path, const QString &text) const;

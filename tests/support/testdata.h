@@ -19,6 +19,15 @@ inline QStringList numbered(int count)
     return list;
 }
 
+/// The text of a form of one QWidget named "Form", 600 by 500, with this inside and after it.
+inline QString formWith(const QString &inside, const QString &afterwards = QString())
+{
+    return QLatin1String("<ui version=\"4.0\"><class>Form</class><widget class=\"QWidget\" name=\"Form\">"
+                         "<property name=\"geometry\"><rect><x>0</x><y>0</y><width>600</width>"
+                         "<height>500</height></rect></property>")
+        + inside + QLatin1String("</widget>") + afterwards + QLatin1String("</ui>");
+}
+
 /// Writes a small red picture.
 inline bool saveImage(const QString &path)
 {
@@ -27,26 +36,28 @@ inline bool saveImage(const QString &path)
     return image.save(path);
 }
 
-/// Makes a widget of a certain class; a column of tests over several controls.
+/// A test row for each row of \a table, with the name that stands first in it.
+template <typename Row, int count>
+void addRows(const Row (&table)[count])
+{
+    QTest::addColumn<int>("row");
+    for (int i = 0; i < count; ++i)
+        QTest::newRow(table[i].name) << i;
+}
+
+/// The row of the table given to addRows() whose turn it is.
+template <typename Row, int count>
+const Row &currentRow(const Row (&table)[count])
+{
+    QFETCH(int, row);
+    return table[row];
+}
+
+/// Makes a widget of a certain class.
 using Maker = QWidget *(*)();
-Q_DECLARE_METATYPE(Maker)
 
 template <typename Control>
 QWidget *makeControl()
 {
     return new Control;
-}
-
-template <typename Control, typename... Columns>
-void addControl(const Columns &...columns)
-{
-    QTestData &row = QTest::newRow(Control::staticMetaObject.className());
-    ((row << Maker(makeControl<Control>)) << ... << columns);
-}
-
-/// Adds a row for each class, named after it: its maker and the same further columns.
-template <typename... Controls, typename... Columns>
-void addControls(const Columns &...columns)
-{
-    (addControl<Controls>(columns...), ...);
 }

@@ -4,15 +4,12 @@
 #include <nui/Sorrel/SrMatrixButtons.h>
 #include <nui/Sorrel/SrMatrixPopButtons.h>
 #include <nui/Sorrel/template/SrOptionButtons.h>
-#include <nui/Sorrel/template/SrOptionComboBox.h>
 #include <nui/Sorrel/template/SrOptionRadios.h>
 
-#include <QtTest/QSignalSpy>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
 
 #include <memory>
-#include <type_traits>
 
 using namespace Vexa;
 
@@ -26,113 +23,168 @@ QStringList textsOf(const QList<QAbstractButton *> &buttons)
     return texts;
 }
 
+struct Kind {
+    const char *name;
+    Maker make;
+};
+const Kind kinds[] = {
+    {"OptionButtons", makeControl<OptionButtons>},
+    {"OptionRadios", makeControl<OptionRadios>},
+    {"MatrixPushButtons", makeControl<MatrixPushButtons>},
+    {"MatrixRadioButtons", makeControl<MatrixRadioButtons>},
+    {"MatrixCheckBoxes", makeControl<MatrixCheckBoxes>},
+    {"MatrixPopButtons", makeControl<MatrixPopButtons>},
+};
+
+struct GridSize {
+    const char *name;
+    unsigned int rows, columns;
+    int buttons;
+};
+const GridSize gridSizes[] = {
+    {"no rows", 0u, 5u, 0},
+    {"the most", 99u, 99u, 9801},
+    {"too many columns", 2u, 1000u, 198},
+    {"a negative number in the form", unsigned(-3), 1u, 99},
+    {"absurd", ~0u, ~0u, 9801},
+};
+
 } // namespace
 
+/// The controls that hold lists and grids of options.
 class ContentsControls : public QObject {
     Q_OBJECT
 
 private slots:
-    void signaturesAreThoseOfTheLibrary();
-    void countIsTheLongestList();
-    void buttonsAreLaidOut_data();
-    void buttonsAreLaidOut();
-    void optionIsChosenByClickAndByIndex();
-    void hugeListsMakeFewButtons();
-};
+    void countIsTheLongestList()
+    {
+        for (const char *longest : {"textList", "iconList", "toolTips", "dataList"}) {
+            OptionButtons options;
+            QCOMPARE(options.count(), 0);
+            options.setTextList(words("a b"));
+            options.setProperty(longest, numbered(5));
+            QCOMPARE(options.count(), 5);
+        }
+        CheckableTextComboBox comboBox;
+        comboBox.setItemTextList(words("a"));
+        comboBox.setToolTips(words("x y z"));
+        QCOMPARE(comboBox.comboBox()->count(), 3);
+    }
 
-void ContentsControls::signaturesAreThoseOfTheLibrary()
-{
-    // What callers of the library compile against.
-    using Matrix = AbstractMatrixOptions;
-    static_assert(std::is_same_v<decltype(&Matrix::row), unsigned int (Matrix::*)() const>);
-    static_assert(std::is_same_v<decltype(&Matrix::button), QAbstractButton *(Matrix::*)(int)>);
-    static_assert(
-        std::is_same_v<decltype(&MatrixPopButtons::setColumn), void (MatrixPopButtons::*)(unsigned int)>);
-    static_assert(std::is_same_v<decltype(&CheckableTextComboBox::comboBox),
-        QComboBox *(CheckableTextComboBox::*)() const>);
+    void buttonsAreLaidOut_data() { addRows(kinds); }
+    void buttonsAreLaidOut()
+    {
+        const std::unique_ptr<QWidget> control(currentRow(kinds).make());
+        control->resize(400, 200);
+        control->show();
+        control->setProperty("textList", words("a b c d"));
+        control->setProperty("toolTips", words("1 2"));
+        QVERIFY(QMetaObject::invokeMethod(control.get(), "updateGeomtries"));
 
-    struct Fixed : OptionComboBox {
-        int count() const override { return 7; }
-        QStringList dataList() const override { return {QStringLiteral("virtual")}; }
-    } fixed;
-    const AbstractOptions &options = fixed;
-    QCOMPARE(options.count(), 7);
-    QCOMPARE(options.currentData(), QStringLiteral("virtual"));
-}
+        const QList<QAbstractButton *> buttons = control->findChildren<QAbstractButton *>();
+        QCOMPARE(textsOf(buttons), words("a b c d"));
+        QCOMPARE(buttons.at(1)->toolTip(), QStringLiteral("2"));
+        QRegion covered;
+        for (const QAbstractButton *button : buttons) {
+            QVERIFY(button->isVisible() && button->width() > 10 && button->height() > 10);
+            QVERIFY(!covered.intersects(button->geometry()));
+            covered += button->geometry();
+        }
 
-void ContentsControls::countIsTheLongestList()
-{
-    for (const char *longest : {"textList", "iconList", "toolTips", "dataList"}) {
+        // Without the slot, the next round of events does it.
+        control->setProperty("textList", words("e f g h"));
+        QTRY_COMPARE(textsOf(control->findChildren<QAbstractButton *>()), words("e f g h"));
+    }
+
+    void optionIsChosenByClickAndByIndex()
+    {
         OptionButtons options;
-        QCOMPARE(options.count(), 0);
-        options.setTextList(words("a b"));
-        options.setProperty(longest, numbered(5));
-        QCOMPARE(options.count(), 5);
-    }
-    CheckableTextComboBox comboBox;
-    comboBox.setItemTextList(words("a"));
-    comboBox.setToolTips(words("x y z"));
-    QCOMPARE(comboBox.comboBox()->count(), 3);
-}
-
-void ContentsControls::buttonsAreLaidOut_data()
-{
-    QTest::addColumn<Maker>("maker");
-    addControls<OptionButtons, OptionRadios, MatrixPushButtons, MatrixRadioButtons, MatrixCheckBoxes,
-        MatrixPopButtons>();
-}
-
-void ContentsControls::buttonsAreLaidOut()
-{
-    QFETCH(Maker, maker);
-    const std::unique_ptr<QWidget> control(maker());
-    control->resize(400, 200);
-    control->show();
-    control->setProperty("textList", words("a b c d"));
-    control->setProperty("toolTips", words("1 2"));
-    QVERIFY(QMetaObject::invokeMethod(control.get(), "updateGeomtries"));
-
-    const QList<QAbstractButton *> buttons = control->findChildren<QAbstractButton *>();
-    QCOMPARE(textsOf(buttons), words("a b c d"));
-    QCOMPARE(buttons.at(1)->toolTip(), QStringLiteral("2"));
-    QRegion covered;
-    for (const QAbstractButton *button : buttons) {
-        QVERIFY(button->isVisible() && button->width() > 10 && button->height() > 10);
-        QVERIFY(!covered.intersects(button->geometry()));
-        covered += button->geometry();
+        options.setCurrentIndex(2);
+        options.setTextList(words("a b c"));
+        options.setDataList(words("1 2 3"));
+        options.updateGeomtries();
+        const QList<QAbstractButton *> buttons = options.findChildren<QAbstractButton *>();
+        QVERIFY(buttons.at(2)->isChecked());
+        QSignalSpy changed(&options, &AbstractOptions::currentIndexChanged);
+        buttons.at(0)->click();
+        QCOMPARE(options.currentData(), QStringLiteral("1"));
+        QVERIFY(!buttons.at(2)->isChecked());
+        options.setCurrentIndex(-1);
+        QVERIFY(!buttons.at(0)->isChecked());
+        QCOMPARE(changed.size(), 2);
     }
 
-    // Without the slot, the next round of events does it.
-    control->setProperty("textList", words("e f g h"));
-    QTRY_COMPARE(textsOf(control->findChildren<QAbstractButton *>()), words("e f g h"));
-}
+    void hugeListsMakeFewButtons()
+    {
+        OptionRadios radios;
+        radios.setTextList(numbered(100000));
+        radios.updateGeomtries();
+        QCOMPARE(radios.textList(), numbered(100000));
+        QCOMPARE(radios.findChildren<QAbstractButton *>().size(), 1000);
+    }
 
-void ContentsControls::optionIsChosenByClickAndByIndex()
-{
-    OptionButtons options;
-    options.setCurrentIndex(2);
-    options.setTextList(words("a b c"));
-    options.setDataList(words("1 2 3"));
-    options.updateGeomtries();
-    const QList<QAbstractButton *> buttons = options.findChildren<QAbstractButton *>();
-    QVERIFY(buttons.at(2)->isChecked());
-    QSignalSpy changed(&options, &AbstractOptions::currentIndexChanged);
-    buttons.at(0)->click();
-    QCOMPARE(options.currentData(), QStringLiteral("1"));
-    QVERIFY(!buttons.at(2)->isChecked());
-    options.setCurrentIndex(-1);
-    QVERIFY(!buttons.at(0)->isChecked());
-    QCOMPARE(changed.size(), 2);
-}
+    void gridIsRowMajor()
+    {
+        MatrixPushButtons grid;
+        grid.setRow(2);
+        grid.setColumn(3);
+        grid.setTextList(words("a b c d"));
+        grid.resize(300, 100);
+        grid.show();
+        QCOMPARE(grid.button(2)->text(), QStringLiteral("c"));
+        QCOMPARE(grid.button(3)->text(), QStringLiteral("d"));
+        QCOMPARE(grid.button(5)->text(), QString());
+        QVERIFY(!grid.button(6));
+        QVERIFY(!grid.button(-1));
+        QCOMPARE(grid.button(0)->y(), grid.button(2)->y());
+        QCOMPARE(grid.button(0)->x(), grid.button(3)->x());
+        QVERIFY(grid.button(3)->y() > grid.button(0)->y());
+    }
 
-void ContentsControls::hugeListsMakeFewButtons()
-{
-    OptionRadios radios;
-    radios.setTextList(numbered(100000));
-    radios.updateGeomtries();
-    QCOMPARE(radios.textList(), numbered(100000));
-    QCOMPARE(radios.findChildren<QAbstractButton *>().size(), 1000);
-}
+    void gridReportsWhatWasSetAndMakesAtMost99By99_data() { addRows(gridSizes); }
+    void gridReportsWhatWasSetAndMakesAtMost99By99()
+    {
+        const GridSize &size = currentRow(gridSizes);
+        const auto check = [&size](auto &&grid) {
+            grid.setRow(size.rows);
+            grid.setColumn(size.columns);
+            grid.updateGeomtries();
+            QCOMPARE(grid.row(), size.rows);
+            QCOMPARE(grid.column(), size.columns);
+            QCOMPARE(grid.template findChildren<QAbstractButton *>().size(), size.buttons);
+            QVERIFY(grid.minimumSizeHint().width() < 400);
+        };
+        check(MatrixPushButtons());
+        check(MatrixPopButtons());
+    }
+
+    /// The index counts the columns that were asked for, made or not.
+    void buttonsBeyondTheMostAreSkipped()
+    {
+        MatrixPushButtons grid;
+        grid.setRow(2);
+        grid.setColumn(1000);
+        grid.setTextList(numbered(3000));
+        QVERIFY(!grid.button(99));
+        QCOMPARE(grid.button(1000)->text(), QStringLiteral("1000"));
+    }
+
+    void iconThatArrivesAfterTheControlIsShown()
+    {
+        QTemporaryDir folder;
+        const QString path = folder.filePath(QStringLiteral("late.png"));
+        MatrixPushButtons grid;
+        grid.setIconList({path});
+        QVERIFY(grid.button(0)->icon().isNull());
+        QVERIFY(saveImage(path));
+        QTRY_VERIFY(!grid.button(0)->icon().isNull());
+
+        // Setting the same texts, as after a change of the resource set, reads the icons at once.
+        QVERIFY(QFile::remove(path));
+        grid.setTextList(grid.textList());
+        QVERIFY(grid.button(0)->icon().isNull());
+    }
+};
 
 QTEST_MAIN(ContentsControls)
 #include "tst_contentscontrols.moc"

@@ -1,28 +1,12 @@
 #include "testdata.h"
 
-#include "editing/drawbackboxcommand.h"
 #include "editing/drawbackboxcontents.h"
 
-#include <QtWidgets/QUndoStack>
+#include <sorrel/SrDrawbackBoxGroup.h>
 
 namespace {
 
 using Ids = QVector<int>;
-
-QStringList titles(const Vexa::DrawbackBoxGroup &group)
-{
-    QStringList titles;
-    for (int i = 0; i < group.count(); ++i)
-        titles += group.pageTitle(i);
-    return titles;
-}
-
-void addPage(Vexa::DrawbackBoxGroup *group, const char *title)
-{
-    auto page = new QWidget;
-    page->setWindowTitle(QLatin1String(title));
-    group->addPage(page);
-}
 
 DrawbackBoxHold newBox()
 {
@@ -32,12 +16,19 @@ DrawbackBoxHold newBox()
     return hold;
 }
 
-void push(QUndoStack *stack, Vexa::DrawbackBoxGroup *group, const DrawbackBoxContents &contents)
-{
-    auto command = new ChangeDrawbackBoxCommand(nullptr);
-    command->init(group, DrawbackBoxContents::fromDrawbackBoxGroup(group), contents, {0}, {0, 1});
-    stack->push(command);
-}
+struct Arrangement {
+    const char *name;
+    int boxCount;
+    Ids initial, current, arranged;
+};
+const Arrangement arrangements[] = {
+    {"two between, upwards", 2, {0, 1}, {0, 3, 2, 1}, {0, -2, -1, 1}},
+    {"last two of four deleted", 4, {0, 1, 2, 3}, {0, 1}, {1, 2}},
+    {"far ids", 1, {0}, {0, 2147483647}, {0, -1}},
+    {"negative ids", 1, {0}, {-5, 0}, {0, -1}},
+    {"less boxes than ids", 1, {0, 1, 2}, {2, 1, 0}, {0}},
+    {"no boxes, ids deleted", 0, {7, 8}, {8}, {}},
+};
 
 } // namespace
 
@@ -45,39 +36,11 @@ class tst_DrawbackBoxContents : public QObject {
     Q_OBJECT
 
 private slots:
-    void arrangesBoxes_data()
-    {
-        QTest::addColumn<int>("boxCount");
-        QTest::addColumn<Ids>("initial");
-        QTest::addColumn<Ids>("current");
-        QTest::addColumn<Ids>("expected");
-        QTest::newRow("two between, upwards") << 2 << Ids{0, 1} << Ids{0, 3, 2, 1} << Ids{0, -2, -1, 1};
-        QTest::newRow("last two of four deleted") << 4 << Ids{0, 1, 2, 3} << Ids{0, 1} << Ids{1, 2};
-        QTest::newRow("far ids") << 1 << Ids{0} << Ids{0, 2147483647} << Ids{0, -1};
-        QTest::newRow("negative ids") << 1 << Ids{0} << Ids{-5, 0} << Ids{0, -1};
-        QTest::newRow("less boxes than ids") << 1 << Ids{0, 1, 2} << Ids{2, 1, 0} << Ids{0};
-        QTest::newRow("no boxes, ids deleted") << 0 << Ids{7, 8} << Ids{8} << Ids();
-    }
+    void arrangesBoxes_data() { addRows(arrangements); }
     void arrangesBoxes()
     {
-        QFETCH(int, boxCount);
-        QFETCH(Ids, initial);
-        QFETCH(Ids, current);
-        QTEST(arrangeBoxes(boxCount, initial, current), "expected");
-    }
-
-    void readsTheGroup()
-    {
-        Vexa::DrawbackBoxGroup group;
-        addPage(&group, "A");
-        addPage(&group, "");
-        const DrawbackBoxContents contents = DrawbackBoxContents::fromDrawbackBoxGroup(&group);
-        QCOMPARE(contents.items.size(), 2);
-        QCOMPARE(contents.items[0].text(27), QStringLiteral("A"));
-        QVERIFY(contents.items[1].isEmpty());
-        QCOMPARE(contents.boxes.size(), 2);
-        QCOMPARE(contents.boxes[1].box(), group.box(1));
-        QVERIFY(DrawbackBoxContents::fromDrawbackBoxGroup(nullptr).boxes.isEmpty());
+        const Arrangement &expected = currentRow(arrangements);
+        QCOMPARE(arrangeBoxes(expected.boxCount, expected.initial, expected.current), expected.arranged);
     }
 
     void boxGoesWithItsLastHoldUnlessOwned()
@@ -100,26 +63,6 @@ private slots:
         hold = newBox();
         delete hold.box();
         QVERIFY(!hold.box());
-    }
-
-    /// The other way round is no harm: a page without a title keeps its own.
-    void fewerTitlesThanPages()
-    {
-        Vexa::DrawbackBoxGroup group;
-        addPage(&group, "A");
-        addPage(&group, "B");
-        DrawbackBoxContents contents = DrawbackBoxContents::fromDrawbackBoxGroup(&group);
-        contents.items = {ItemData()};
-        QUndoStack stack;
-        push(&stack, &group, contents);
-        QCOMPARE(titles(group), (QStringList{QString(), QStringLiteral("B")}));
-        QCOMPARE(group.currentIndex(), 1);
-        QCOMPARE(stack.undoText(), QStringLiteral("Change OptionRadios Contents"));
-        stack.undo();
-        QCOMPARE(titles(group), words("A B"));
-        contents.items = ListContents(5);
-        push(&stack, &group, contents);
-        QCOMPARE(group.count(), 2);
     }
 };
 

@@ -1,6 +1,6 @@
 #include "hostbase.h"
-#include "logwatch.h"
 #include "panedriver.h"
+#include "quiettest.h"
 #include "testdata.h"
 
 #include <propertyeditor/designerpropertymanager.h>
@@ -13,8 +13,6 @@
 
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QTreeView>
-
-#include <memory>
 
 using Norvik::Quenta::Ap::Base;
 using Norvik::Quenta::Ap::Function;
@@ -37,16 +35,14 @@ constexpr AbstractItemEditor::PropertyDefinition table[]
 } // namespace
 
 /// The hook with the host's base library in the process.
-class HostTranslationTest : public QObject {
+class HostTranslationTest : public QuietTest {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { m_log = std::make_unique<LogWatch>(); }
-    void cleanupTestCase() { m_log.reset(); }
     void cleanup()
     {
         registerFunction(nullptr);
-        QCOMPARE(m_log->takeUnexpected().join(QLatin1Char('\n')), QString());
+        QuietTest::cleanup();
     }
 
     void textsGoThroughTheFunctionAsItIsNow()
@@ -114,8 +110,6 @@ private:
         ItemListEditor widget{nullptr, nullptr};
         PaneDriver pane{&widget};
     };
-
-    std::unique_ptr<LogWatch> m_log;
 };
 
 QTEST_MAIN(HostTranslationTest)

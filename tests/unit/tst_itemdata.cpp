@@ -49,151 +49,139 @@ QVector<int> rolesOf(const ItemData &entry)
     return roles;
 }
 
+struct FlagCase {
+    const char *name;
+    bool editor, changeFlags;
+    QVariant shadow, read;
+    int filled; ///< the flags of an item that had none
+};
+const FlagCase flagCases[] = {
+    {"editor: flags are not read", true, true, {}, {}, Qt::ItemIsEditable},
+    {"editor: the shadow is data", true, false, 5, 5, Qt::ItemIsEditable},
+    {"no editor: new item's flags", false, false, 5, {}, 0},
+    {"no editor: other flags", false, true, 5, int(Qt::ItemIsEnabled), Qt::ItemIsEnabled},
+};
+
 } // namespace
 
 class tst_ItemData : public QObject {
     Q_OBJECT
 
 private slots:
-    void equalityIsByValue_data();
-    void equalityIsByValue();
-    void rolesAreSortedAndNeverInvalid();
-    void allKnownRolesAreRead();
-    void flagsTravelUnderTheShadowRole_data();
-    void flagsTravelUnderTheShadowRole();
-    void fillShowsTextsAndIcon();
+    void equalityIsByValue_data()
+    {
+        QTest::addColumn<ItemData>("left");
+        QTest::addColumn<ItemData>("right");
+        QTest::addColumn<bool>("equal");
+        const QString a = QStringLiteral("a");
+        const auto row = [](const char *name, bool equal, const ItemData &left, const ItemData &right) {
+            QTest::newRow(name) << left << right << equal;
+        };
+        const auto differs = [&row](const char *name, int role, const QVariant &left, const QVariant &right) {
+            row(name, false, entry({{role, left}}), entry({{role, right}}));
+        };
+        row("nothing", true, {}, {});
+        row("same text", true, entry({{27, text(a, false, a, a, a)}}),
+            entry({{27, text(a, false, a, a, a)}}));
+        row("order of setting", true, entry({{27, text(a)}, {29, text(a)}}),
+            entry({{29, text(a)}, {27, text(a)}}));
+        row("same icon", true, entry({{28, icon(a)}}), entry({{28, icon(a)}}));
+        row("same plain value", true, entry({{7, 129}}), entry({{7, 129}}));
+        row("other role", false, entry({{27, text(a)}}), entry({{29, text(a)}}));
+
+        differs("empty text is no missing text", 27, text({}), {});
+        differs("other text", 27, text(a), text(QStringLiteral("b")));
+        differs("translatable", 27, text(a), text(a, false));
+        differs("disambiguation", 27, text(a), text(a, true, a));
+        differs("comment", 27, text(a), text(a, true, {}, a));
+        differs("id", 27, text(a), text(a, true, {}, {}, a));
+        differs("icon path", 28, icon(a), icon(QStringLiteral("b")));
+        differs("icon mode", 28, icon(a), icon(a, QIcon::Disabled));
+        differs("icon theme", 28, icon(a), icon(a, QIcon::Normal, a));
+        differs("other type", 27, text(a), a);
+        differs("plain value", 7, 129, 130);
+    }
+    void equalityIsByValue()
+    {
+        QFETCH(ItemData, left);
+        QFETCH(ItemData, right);
+        QFETCH(bool, equal);
+        QCOMPARE(left == right, equal);
+        QCOMPARE(right != left, !equal);
+    }
+
+    void rolesAreSortedAndNeverInvalid()
+    {
+        ItemData data = entry({{258, 1}, {27, 2}, {28, QVariant()}, {29, 3}});
+        QCOMPARE(rolesOf(data), QVector<int>({27, 29, 258}));
+        data.setValue(29, QVariant());
+        data.setText(30, QString());
+        data.setIconPath(QString());
+        QCOMPARE(rolesOf(data), QVector<int>({27, 258}));
+        // A value of another type is neither text nor icon.
+        QCOMPARE(data.text(27) + entry({{28, 5}}).iconPath(), QString());
+    }
+
+    void allKnownRolesAreRead()
+    {
+        const QVector<int> known{6, 7, 8, 9, 10, 27, 28, 29, 30, 31, 257, 258};
+        QListWidgetItem listItem;
+        QTableWidgetItem tableItem;
+        for (int role = 0; role < 300; ++role) {
+            listItem.setData(role, 1);
+            tableItem.setData(role, 1);
+        }
+        for (bool editor : {true, false}) {
+            QCOMPARE(rolesOf(ItemData(&listItem, editor)), known);
+            QCOMPARE(rolesOf(ItemData(&tableItem, editor)), known);
+        }
+    }
+
+    void flagsTravelUnderTheShadowRole_data() { addRows(flagCases); }
+    void flagsTravelUnderTheShadowRole()
+    {
+        const FlagCase &expected = currentRow(flagCases);
+        const auto check = [&](auto item) {
+            if (expected.changeFlags)
+                item.setFlags(Qt::ItemIsEnabled);
+            item.setData(flagsRole, expected.shadow);
+            const ItemData data(&item, expected.editor);
+            QCOMPARE(data.value(flagsRole), expected.read);
+            item.setFlags(Qt::NoItemFlags);
+            item.setData(flagsRole, QVariant());
+            data.fill(&item, nullptr, expected.editor);
+            QCOMPARE(int(item.flags()), expected.filled);
+            QCOMPARE(item.data(flagsRole), expected.editor ? expected.read : QVariant());
+        };
+        check(QListWidgetItem());
+        check(QTableWidgetItem());
+    }
+
+    void fillShowsTextsAndIcon()
+    {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("a.png"));
+        QVERIFY(saveImage(path));
+        DesignerPixmapCache pixmaps;
+        DesignerIconCache icons(&pixmaps);
+        const ItemData data
+            = entry({{27, text(QStringLiteral("text"))}, {28, icon(path)}, {29, text(QStringLiteral("tip"))},
+                {30, text(QStringLiteral("status"))}, {7, 129}, {257, text(QStringLiteral("action"))}});
+        QListWidgetItem item;
+        data.fill(&item, &icons, true);
+        QCOMPARE(item.text(), QStringLiteral("text"));
+        QCOMPARE(item.toolTip(), QStringLiteral("tip"));
+        QCOMPARE(item.statusTip(), QStringLiteral("status"));
+        QCOMPARE(item.textAlignment(), 129);
+        QVERIFY(!item.icon().isNull());
+        QVERIFY(ItemData(&item, true) == data);
+
+        QTableWidgetItem bare;
+        data.fill(&bare, nullptr, true);
+        QVERIFY(bare.icon().isNull());
+        QVERIFY(ItemData(&bare, true) == data);
+    }
 };
-
-void tst_ItemData::equalityIsByValue_data()
-{
-    QTest::addColumn<ItemData>("left");
-    QTest::addColumn<ItemData>("right");
-    QTest::addColumn<bool>("equal");
-    const QString a = QStringLiteral("a");
-    const auto row = [](const char *name, bool equal, const ItemData &left, const ItemData &right) {
-        QTest::newRow(name) << left << right << equal;
-    };
-    const auto differs = [&row](const char *name, int role, const QVariant &left, const QVariant &right) {
-        row(name, false, entry({{role, left}}), entry({{role, right}}));
-    };
-    row("nothing", true, {}, {});
-    row("same text", true, entry({{27, text(a, false, a, a, a)}}), entry({{27, text(a, false, a, a, a)}}));
-    row("order of setting", true, entry({{27, text(a)}, {29, text(a)}}),
-        entry({{29, text(a)}, {27, text(a)}}));
-    row("same icon", true, entry({{28, icon(a)}}), entry({{28, icon(a)}}));
-    row("same plain value", true, entry({{7, 129}}), entry({{7, 129}}));
-    row("other role", false, entry({{27, text(a)}}), entry({{29, text(a)}}));
-
-    differs("empty text is no missing text", 27, text({}), {});
-    differs("other text", 27, text(a), text(QStringLiteral("b")));
-    differs("translatable", 27, text(a), text(a, false));
-    differs("disambiguation", 27, text(a), text(a, true, a));
-    differs("comment", 27, text(a), text(a, true, {}, a));
-    differs("id", 27, text(a), text(a, true, {}, {}, a));
-    differs("icon path", 28, icon(a), icon(QStringLiteral("b")));
-    differs("icon mode", 28, icon(a), icon(a, QIcon::Disabled));
-    differs("icon theme", 28, icon(a), icon(a, QIcon::Normal, a));
-    differs("other type", 27, text(a), a);
-    differs("plain value", 7, 129, 130);
-}
-
-void tst_ItemData::equalityIsByValue()
-{
-    QFETCH(ItemData, left);
-    QFETCH(ItemData, right);
-    QFETCH(bool, equal);
-    QCOMPARE(left == right, equal);
-    QCOMPARE(right != left, !equal);
-}
-
-void tst_ItemData::rolesAreSortedAndNeverInvalid()
-{
-    ItemData data = entry({{258, 1}, {27, 2}, {28, QVariant()}, {29, 3}});
-    QCOMPARE(rolesOf(data), QVector<int>({27, 29, 258}));
-    data.setValue(29, QVariant());
-    data.setText(30, QString());
-    data.setIconPath(QString());
-    QCOMPARE(rolesOf(data), QVector<int>({27, 258}));
-    // A value of another type is neither text nor icon.
-    QCOMPARE(data.text(27) + entry({{28, 5}}).iconPath(), QString());
-}
-
-void tst_ItemData::allKnownRolesAreRead()
-{
-    const QVector<int> known{6, 7, 8, 9, 10, 27, 28, 29, 30, 31, 257, 258};
-    QListWidgetItem listItem;
-    QTableWidgetItem tableItem;
-    for (int role = 0; role < 300; ++role) {
-        listItem.setData(role, 1);
-        tableItem.setData(role, 1);
-    }
-    for (bool editor : {true, false}) {
-        QCOMPARE(rolesOf(ItemData(&listItem, editor)), known);
-        QCOMPARE(rolesOf(ItemData(&tableItem, editor)), known);
-    }
-}
-
-void tst_ItemData::flagsTravelUnderTheShadowRole_data()
-{
-    QTest::addColumn<bool>("editor");
-    QTest::addColumn<bool>("changeFlags");
-    QTest::addColumn<QVariant>("shadow");
-    QTest::addColumn<QVariant>("read");
-    QTest::addColumn<int>("filled"); // the flags of an item that had none
-    const int editable = Qt::ItemIsEditable, enabled = Qt::ItemIsEnabled;
-    QTest::newRow("editor: flags are not read") << true << true << QVariant() << QVariant() << editable;
-    QTest::newRow("editor: the shadow is data") << true << false << QVariant(5) << QVariant(5) << editable;
-    QTest::newRow("no editor: new item's flags") << false << false << QVariant(5) << QVariant() << 0;
-    QTest::newRow("no editor: other flags") << false << true << QVariant(5) << QVariant(enabled) << enabled;
-}
-
-void tst_ItemData::flagsTravelUnderTheShadowRole()
-{
-    QFETCH(bool, editor);
-    QFETCH(bool, changeFlags);
-    QFETCH(QVariant, shadow);
-    QFETCH(QVariant, read);
-    QFETCH(int, filled);
-    const auto check = [&](auto item) {
-        if (changeFlags)
-            item.setFlags(Qt::ItemIsEnabled);
-        item.setData(flagsRole, shadow);
-        const ItemData data(&item, editor);
-        QCOMPARE(data.value(flagsRole), read);
-        item.setFlags(Qt::NoItemFlags);
-        item.setData(flagsRole, QVariant());
-        data.fill(&item, nullptr, editor);
-        QCOMPARE(int(item.flags()), filled);
-        QCOMPARE(item.data(flagsRole), editor ? read : QVariant());
-    };
-    check(QListWidgetItem());
-    check(QTableWidgetItem());
-}
-
-void tst_ItemData::fillShowsTextsAndIcon()
-{
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("a.png"));
-    QVERIFY(saveImage(path));
-    DesignerPixmapCache pixmaps;
-    DesignerIconCache icons(&pixmaps);
-    const ItemData data
-        = entry({{27, text(QStringLiteral("text"))}, {28, icon(path)}, {29, text(QStringLiteral("tip"))},
-            {30, text(QStringLiteral("status"))}, {7, 129}, {257, text(QStringLiteral("action"))}});
-    QListWidgetItem item;
-    data.fill(&item, &icons, true);
-    QCOMPARE(item.text(), QStringLiteral("text"));
-    QCOMPARE(item.toolTip(), QStringLiteral("tip"));
-    QCOMPARE(item.statusTip(), QStringLiteral("status"));
-    QCOMPARE(item.textAlignment(), 129);
-    QVERIFY(!item.icon().isNull());
-    QVERIFY(ItemData(&item, true) == data);
-
-    QTableWidgetItem bare;
-    data.fill(&bare, nullptr, true);
-    QVERIFY(bare.icon().isNull());
-    QVERIFY(ItemData(&bare, true) == data);
-}
 
 QTEST_MAIN(tst_ItemData)
 #include "tst_itemdata.moc"

@@ -1,12 +1,10 @@
-#include "designerhost.h"
-#include "logwatch.h"
 #include "panedriver.h"
+#include "quiettest.h"
 #include "testdata.h"
 
 #include <propertyeditor/designerpropertymanager.h>
 #include <propertyeditor/itemlisteditor.h>
 
-#include <private/formwindowbase_p.h>
 #include <private/qdesigner_utils_p.h>
 
 #include <QtWidgets/QLineEdit>
@@ -14,19 +12,11 @@
 #include <QtWidgets/QToolButton>
 #include <QtWidgets/QTreeView>
 
-#include <memory>
-
 using namespace qdesigner_internal;
 
 namespace {
 
-constexpr auto stringType = &DesignerPropertyManager::designerStringTypeId;
-constexpr auto iconType = &DesignerPropertyManager::designerIconTypeId;
-constexpr AbstractItemEditor::PropertyDefinition table[] = {{27, 0, stringType, "text"},
-    {28, 0, iconType, "icon"}, {29, 0, stringType, "toolTip"}, {30, 0, stringType, "statusTip"},
-    {31, 0, stringType, "whatsThis"}, {257, 0, stringType, "action"}, {0, 0, nullptr, nullptr}};
-
-const QString icon = QStringLiteral(":/qt-project.org/formeditor/images/submenu.png");
+const QString comment = QStringLiteral("for translators");
 
 QString textOf(const QVariant &value)
 {
@@ -34,172 +24,137 @@ QString textOf(const QVariant &value)
         return QStringLiteral("-");
     if (value.userType() == qMetaTypeId<PropertySheetStringValue>())
         return QStringLiteral("string ") + value.value<PropertySheetStringValue>().value();
-    if (value.userType() == qMetaTypeId<PropertySheetIconValue>())
-        return QStringLiteral("icon value");
-    if (value.userType() == QMetaType::QIcon)
-        return value.value<QIcon>().isNull() ? QStringLiteral("null icon") : QStringLiteral("icon");
     return QStringLiteral("text ") + value.toString();
 }
 
-} // namespace
-
-/// Writes down what an item list editor emits.
-class Recorder : public QObject {
-    Q_OBJECT
-public:
-    explicit Recorder(QObject *editor)
+/// An editor of items with texts, on the screen, and what it emits.
+struct Editor {
+    explicit Editor(int count)
     {
-        connect(editor, SIGNAL(indexChanged(int)), this, SLOT(indexChanged(int)));
-        connect(editor, SIGNAL(itemChanged(int, int, QVariant)), this, SLOT(itemChanged(int, int, QVariant)));
-        connect(editor, SIGNAL(itemInserted(int)), this, SLOT(itemInserted(int)));
-        connect(editor, SIGNAL(itemDeleted(int)), this, SLOT(itemDeleted(int)));
-        connect(editor, SIGNAL(itemMovedUp(int)), this, SLOT(itemMovedUp(int)));
-        connect(editor, SIGNAL(itemMovedDown(int)), this, SLOT(itemMovedDown(int)));
+        constexpr auto stringType = &DesignerPropertyManager::designerStringTypeId;
+        constexpr auto iconType = &DesignerPropertyManager::designerIconTypeId;
+        static constexpr AbstractItemEditor::PropertyDefinition table[] = {{27, 0, stringType, "text"},
+            {28, 0, iconType, "icon"}, {29, 0, stringType, "toolTip"}, {30, 0, stringType, "statusTip"},
+            {31, 0, stringType, "whatsThis"}, {257, 0, stringType, "action"}, {0, 0, nullptr, nullptr}};
+        widget.setNewItemText(QStringLiteral("New"));
+        for (int i = 0; i < count; ++i) {
+            auto *item = new QListWidgetItem(QStringLiteral("item %1").arg(i), list);
+            item->setData(
+                27, QVariant::fromValue(PropertySheetStringValue(item->text(), false, {}, comment)));
+            item->setFlags(item->flags() | Qt::ItemIsEditable);
+        }
+        record("index", &ItemListEditor::indexChanged);
+        record("inserted", &ItemListEditor::itemInserted);
+        record("deleted", &ItemListEditor::itemDeleted);
+        record("up", &ItemListEditor::itemMovedUp);
+        record("down", &ItemListEditor::itemMovedDown);
+        QObject::connect(
+            &widget, &ItemListEditor::itemChanged, [this](int row, int role, const QVariant &value) {
+                log += QStringLiteral("changed %1 %2 %3").arg(row).arg(role).arg(textOf(value));
+            });
+        widget.setupEditor(nullptr, table);
+        widget.resize(700, 700);
+        widget.show();
+        QVERIFY(QTest::qWaitForWindowActive(&widget));
+        log.clear();
+    }
+    void record(const char *name, void (ItemListEditor::*signal)(int))
+    {
+        QObject::connect(&widget, signal,
+            [this, name](int row) { log += QStringLiteral("%1 %2").arg(QLatin1String(name)).arg(row); });
+    }
+    QAbstractButton *button(const char *name) const
+    {
+        return widget.findChild<QAbstractButton *>(QLatin1String(name));
+    }
+    void showPane()
+    {
+        button("showPropertiesButton")->click();
+        QTRY_VERIFY(pane.tree()->width() > 200);
+    }
+    PropertySheetStringValue text(int row) const
+    {
+        return list->item(row)->data(27).value<PropertySheetStringValue>();
     }
 
     QStringList log;
-
-private slots:
-    void indexChanged(int row) { log += QStringLiteral("index %1").arg(row); }
-    void itemChanged(int row, int role, const QVariant &value)
-    {
-        log += QStringLiteral("changed %1 %2 %3").arg(row).arg(role).arg(textOf(value));
-    }
-    void itemInserted(int row) { log += QStringLiteral("inserted %1").arg(row); }
-    void itemDeleted(int row) { log += QStringLiteral("deleted %1").arg(row); }
-    void itemMovedUp(int row) { log += QStringLiteral("up %1").arg(row); }
-    void itemMovedDown(int row) { log += QStringLiteral("down %1").arg(row); }
+    ItemListEditor widget{nullptr, nullptr};
+    QListWidget *list = widget.listWidget();
+    PaneDriver pane{&widget};
 };
 
-class ItemListEditorTest : public QObject {
+constexpr char add[] = "newListItemButton", erase[] = "deleteListItemButton", up[] = "moveListItemUpButton",
+               down[] = "moveListItemDownButton";
+
+struct Press {
+    const char *name;
+    int count, current;
+    const char *button;
+    const char *log;
+    int newCurrent;
+    const char *texts;
+};
+const Press presses[] = {
+    {"new, empty", 0, -1, add, "inserted 0,index 0", 0, "New"},
+    {"new, first", 3, 0, add, "inserted 1,index 1", 1, "item 0|New|item 1|item 2"},
+    {"new, last", 3, 2, add, "inserted 3,index 3", 3, "item 0|item 1|item 2|New"},
+    {"delete, none", 0, -1, erase, "", -1, ""},
+    {"delete, first", 3, 0, erase, "index 1,deleted 0", 0, "item 1|item 2"},
+    {"delete, middle", 3, 1, erase, "index 2,deleted 1", 1, "item 0|item 2"},
+    {"delete, last", 3, 2, erase, "index 1,deleted 2", 1, "item 0|item 1"},
+    {"delete, only", 1, 0, erase, "index -1,deleted 0", -1, ""},
+    {"up, first", 3, 0, up, "", 0, "item 0|item 1|item 2"},
+    {"up, middle", 3, 1, up, "index 2,index 0,up 1", 0, "item 1|item 0|item 2"},
+    {"up, last", 3, 2, up, "index 1,index 1,up 2", 1, "item 0|item 2|item 1"},
+    {"down, last", 3, 2, down, "", 2, "item 0|item 1|item 2"},
+    {"down, first", 3, 0, down, "index 1,index 1,down 0", 1, "item 1|item 0|item 2"},
+    {"down, middle", 3, 1, down, "index 2,index 2,down 1", 2, "item 0|item 2|item 1"},
+};
+
+struct Field {
+    const char *name;
+    int role;
+    int twin; ///< 0 for none
+};
+const Field fields[]
+    = {{"text", 27, 2}, {"toolTip", 29, 3}, {"statusTip", 30, 4}, {"whatsThis", 31, 5}, {"action", 257, 0}};
+
+} // namespace
+
+class ItemListEditorTest : public QuietTest {
     Q_OBJECT
 
-private:
-    struct Editor {
-        explicit Editor(int count, QDesignerFormWindowInterface *form = nullptr)
-            : widget(form, nullptr)
-        {
-            widget.setNewItemText(QStringLiteral("New"));
-            for (int i = 0; i < count; ++i) {
-                auto *item = new QListWidgetItem(QStringLiteral("item %1").arg(i));
-                item->setData(
-                    27, QVariant::fromValue(PropertySheetStringValue(item->text(), false, {}, comment)));
-                item->setFlags(item->flags() | Qt::ItemIsEditable);
-                list->addItem(item);
-            }
-            widget.setupEditor(form ? form->mainContainer() : nullptr, table);
-            widget.resize(550, 700);
-            widget.show();
-            QVERIFY(QTest::qWaitForWindowActive(&widget));
-        }
-        void showPane()
-        {
-            press("showPropertiesButton");
-            QTRY_VERIFY(pane.tree()->width() > 200);
-        }
-        void press(const char *button)
-        {
-            widget.findChild<QAbstractButton *>(QLatin1String(button))->click();
-        }
-        bool isEnabled(const char *button)
-        {
-            return widget.findChild<QAbstractButton *>(QLatin1String(button))->isEnabled();
-        }
-        QStringList texts() const
-        {
-            QStringList texts;
-            for (int row = 0; row < list->count(); ++row)
-                texts += list->item(row)->text();
-            return texts;
-        }
-
-        const QString comment = QStringLiteral("for translators");
-        ItemListEditor widget;
-        QListWidget *list = widget.listWidget();
-        PaneDriver pane{&widget};
-        Recorder recorder{&widget};
-        QStringList &log = recorder.log;
-    };
-
 private slots:
-    void initTestCase()
-    {
-        m_log = std::make_unique<LogWatch>();
-        m_host = std::make_unique<DesignerHost>(QStringList());
-    }
-    void cleanup() { QCOMPARE(m_log->takeUnexpected().join(QLatin1Char('\n')), QString()); }
-    void cleanupTestCase()
-    {
-        m_host.reset();
-        m_log.reset();
-    }
-
-    void buttonsEmitWhatDesignersDo_data()
-    {
-        QTest::addColumn<int>("count");
-        QTest::addColumn<int>("current");
-        QTest::addColumn<QByteArray>("button");
-        QTest::addColumn<QStringList>("log");
-        QTest::addColumn<int>("newCurrent");
-        QTest::addColumn<QString>("texts");
-        const auto row = [](const char *name, int count, int current, const char *button, const char *log,
-                             int newCurrent, const char *texts) {
-            QTest::newRow(name) << count << current << QByteArray(button)
-                                << QString::fromLatin1(log).split(QLatin1Char(','), Qt::SkipEmptyParts)
-                                << newCurrent << QString::fromLatin1(texts);
-        };
-        const char add[] = "newListItemButton", remove[] = "deleteListItemButton",
-                   up[] = "moveListItemUpButton", down[] = "moveListItemDownButton";
-        row("new, empty", 0, -1, add, "inserted 0,index 0", 0, "New");
-        row("new, first", 3, 0, add, "inserted 1,index 1", 1, "item 0|New|item 1|item 2");
-        row("new, last", 3, 2, add, "inserted 3,index 3", 3, "item 0|item 1|item 2|New");
-        row("delete, none", 0, -1, remove, "", -1, "");
-        row("delete, first", 3, 0, remove, "index 1,deleted 0", 0, "item 1|item 2");
-        row("delete, middle", 3, 1, remove, "index 2,deleted 1", 1, "item 0|item 2");
-        row("delete, last", 3, 2, remove, "index 1,deleted 2", 1, "item 0|item 1");
-        row("delete, only", 1, 0, remove, "index -1,deleted 0", -1, "");
-        row("up, first", 3, 0, up, "", 0, "item 0|item 1|item 2");
-        row("up, middle", 3, 1, up, "index 2,index 0,up 1", 0, "item 1|item 0|item 2");
-        row("up, last", 3, 2, up, "index 1,index 1,up 2", 1, "item 0|item 2|item 1");
-        row("down, last", 3, 2, down, "", 2, "item 0|item 1|item 2");
-        row("down, first", 3, 0, down, "index 1,index 1,down 0", 1, "item 1|item 0|item 2");
-        row("down, middle", 3, 1, down, "index 2,index 2,down 1", 2, "item 0|item 2|item 1");
-    }
-
+    void buttonsEmitWhatDesignersDo_data() { addRows(presses); }
     void buttonsEmitWhatDesignersDo()
     {
-        QFETCH(int, count);
-        QFETCH(int, current);
-        QFETCH(QByteArray, button);
-        QFETCH(QStringList, log);
-        QFETCH(int, newCurrent);
-        QFETCH(QString, texts);
-        Editor editor(count);
-        editor.list->setCurrentRow(current);
+        const Press &press = currentRow(presses);
+        Editor editor(press.count);
+        editor.list->setCurrentRow(press.current);
         editor.log.clear();
-        editor.press(button);
-        QCOMPARE(editor.log, log);
-        QCOMPARE(editor.list->currentRow(), newCurrent);
-        QCOMPARE(editor.texts().join(QLatin1Char('|')), texts);
+        editor.button(press.button)->click();
+        QCOMPARE(editor.log.join(QLatin1Char(',')), QLatin1String(press.log));
+        QCOMPARE(editor.list->currentRow(), press.newCurrent);
+        QStringList texts;
+        for (int row = 0; row < editor.list->count(); ++row)
+            texts += editor.list->item(row)->text();
+        QCOMPARE(texts.join(QLatin1Char('|')), QLatin1String(press.texts));
 
-        const bool any = newCurrent >= 0;
-        QVERIFY(editor.isEnabled("newListItemButton"));
-        QCOMPARE(editor.isEnabled("deleteListItemButton"), any);
-        QCOMPARE(editor.isEnabled("moveListItemUpButton"), newCurrent > 0);
-        QCOMPARE(editor.isEnabled("moveListItemDownButton"), any && newCurrent < editor.list->count() - 1);
+        const bool any = press.newCurrent >= 0;
+        QVERIFY(editor.button(add)->isEnabled());
+        QCOMPARE(editor.button(erase)->isEnabled(), any);
+        QCOMPARE(editor.button(up)->isEnabled(), press.newCurrent > 0);
+        QCOMPARE(editor.button(down)->isEnabled(), any && press.newCurrent < texts.size() - 1);
         QCOMPARE(editor.pane.names().isEmpty(), !any);
     }
 
     void newItemIsRenamedInPlace()
     {
         Editor editor(1);
-        editor.press("newListItemButton");
-        const QListWidgetItem *item = editor.list->item(1);
-        const auto text = item->data(27).value<PropertySheetStringValue>();
-        QCOMPARE(text.value(), QStringLiteral("New"));
-        QVERIFY(text.translatable() && text.comment().isEmpty());
-        QCOMPARE(int(item->flags()), 55);
-        QCOMPARE(item->textAlignment(), 0);
+        editor.button(add)->click();
+        QCOMPARE(editor.text(1), PropertySheetStringValue(QStringLiteral("New")));
+        QCOMPARE(int(editor.list->item(1)->flags()), 55);
+        QCOMPARE(editor.list->item(1)->textAlignment(), 0);
 
         auto *edit = editor.list->findChild<QLineEdit *>();
         QVERIFY(edit);
@@ -211,32 +166,20 @@ private slots:
         QCOMPARE(editor.pane.valueText(QStringLiteral("text")), QStringLiteral("b"));
 
         editor.list->item(0)->setText(QStringLiteral("renamed"));
-        QCOMPARE(editor.list->item(0)->data(27).value<PropertySheetStringValue>(),
-            PropertySheetStringValue(QStringLiteral("renamed"), false, {}, editor.comment));
+        QCOMPARE(editor.text(0), PropertySheetStringValue(QStringLiteral("renamed"), false, {}, comment));
     }
 
-    void paneEditsAreWrittenBackWithTheirTwin_data()
-    {
-        QTest::addColumn<int>("role");
-        QTest::addColumn<int>("twin"); // 0 for none
-        QTest::newRow("text") << 27 << 2;
-        QTest::newRow("toolTip") << 29 << 3;
-        QTest::newRow("statusTip") << 30 << 4;
-        QTest::newRow("whatsThis") << 31 << 5;
-        QTest::newRow("action") << 257 << 0;
-    }
-
+    void paneEditsAreWrittenBackWithTheirTwin_data() { addRows(fields); }
     void paneEditsAreWrittenBackWithTheirTwin()
     {
-        QFETCH(int, role);
-        QFETCH(int, twin);
-        const QString row = QString::fromLatin1(QTest::currentDataTag());
+        const Field &field = currentRow(fields);
+        const QString row = QString::fromLatin1(field.name);
         Editor editor(2);
         editor.showPane();
         const auto log = [&](const char *value, const char *shown) {
-            QStringList log{QStringLiteral("changed 0 %1 %2").arg(role).arg(QLatin1String(value))};
-            if (twin)
-                log += QStringLiteral("changed 0 %1 text %2").arg(twin).arg(QLatin1String(shown));
+            QStringList log{QStringLiteral("changed 0 %1 %2").arg(field.role).arg(QLatin1String(value))};
+            if (field.twin)
+                log += QStringLiteral("changed 0 %1 text %2").arg(field.twin).arg(QLatin1String(shown));
             return log;
         };
         editor.log.clear();
@@ -248,7 +191,7 @@ private slots:
         QCOMPARE(editor.log, log("-", ""));
         QVERIFY(!editor.pane.isModified(row));
         QVERIFY(!editor.pane.resetButton(row)->isEnabled());
-        QVERIFY(!editor.list->item(0)->data(role).isValid());
+        QVERIFY(!editor.list->item(0)->data(field.role).isValid());
     }
 
     void eachKeystrokeIsAnEditAndEmptyTextIsNoReset()
@@ -279,29 +222,6 @@ private slots:
         editor.list->setCurrentRow(1);
         QCOMPARE(editor.log, QStringList{QStringLiteral("index 1")});
     }
-
-    void iconsFollowTheResourceSet()
-    {
-        FormWindowBase *form = m_host->newForm();
-        {
-            Editor editor(1, form);
-            QCOMPARE(editor.widget.iconCache(), form->iconCache());
-            QListWidgetItem *item = editor.list->item(0);
-            const QVariant value
-                = QVariant::fromValue(PropertySheetIconValue(PropertySheetPixmapValue(icon)));
-            item->setData(28, value);
-            QVERIFY(item->icon().isNull());
-            editor.log.clear();
-            emit form->iconCache()->reloaded();
-            QVERIFY(!item->icon().isNull());
-            QCOMPARE(editor.log, QStringList());
-        }
-        m_host->closeForm(form);
-    }
-
-private:
-    std::unique_ptr<LogWatch> m_log;
-    std::unique_ptr<DesignerHost> m_host;
 };
 
 QTEST_MAIN(ItemListEditorTest)

@@ -1,13 +1,12 @@
-#include "logwatch.h"
+#include "quiettest.h"
+#include "testdata.h"
 
 #include <propertyeditor/itemlistwidget.h>
 
-#include <QtTest/QtTest>
 #include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QScrollBar>
 
 #include <functional>
-#include <memory>
 
 using qdesigner_internal::ItemListWidget;
 
@@ -60,54 +59,52 @@ QVector<QRect> rectangles(QListWidget *list)
     return rectangles;
 }
 
-using Change = std::function<void(QListWidget *)>;
-
-} // namespace
-
-Q_DECLARE_METATYPE(Change)
-
-class ItemListWidgetTest : public QObject {
-    Q_OBJECT
-
-private slots:
-    void initTestCase() { m_log = std::make_unique<LogWatch>(); }
-    void cleanupTestCase() { m_log.reset(); }
-    void cleanup() { QCOMPARE(m_log->takeUnexpected().join(QLatin1Char('\n')), QString()); }
-
-    void rowsLieAsInAPlainList_data()
-    {
-        QTest::addColumn<Change>("change");
-        QTest::newRow("filled") << Change([](QListWidget *) {});
-        QTest::newRow("row grows") << Change(
-            [](QListWidget *list) { list->item(3)->setText(QStringLiteral("one\ntwo\nthree")); });
-        QTest::newRow("row gets wider than the view")
-            << Change([](QListWidget *list) { list->item(3)->setText(QString(1000, QLatin1Char('x'))); });
-        QTest::newRow("widest rows shrink") << Change([](QListWidget *list) {
+struct Change {
+    const char *name;
+    void (*apply)(QListWidget *);
+};
+const Change layoutChanges[] = {
+    {"filled", [](QListWidget *) {}},
+    {"row grows", [](QListWidget *list) { list->item(3)->setText(QStringLiteral("one\ntwo\nthree")); }},
+    {"row gets wider than the view",
+        [](QListWidget *list) { list->item(3)->setText(QString(1000, QLatin1Char('x'))); }},
+    {"widest rows shrink",
+        [](QListWidget *list) {
             for (int row = 0; row < list->count(); ++row)
                 list->item(row)->setText(QStringLiteral("x"));
-        });
-        QTest::newRow("row gets an icon")
-            << Change([](QListWidget *list) { list->item(1)->setIcon(largeIcon()); });
-        QTest::newRow("deleted") << Change([](QListWidget *list) { delete list->takeItem(7); });
-        QTest::newRow("sorted") << Change([](QListWidget *list) { list->sortItems(Qt::DescendingOrder); });
-        QTest::newRow("filled again") << Change([](QListWidget *list) {
+        }},
+    {"row gets an icon", [](QListWidget *list) { list->item(1)->setIcon(largeIcon()); }},
+    {"deleted", [](QListWidget *list) { delete list->takeItem(7); }},
+    {"sorted", [](QListWidget *list) { list->sortItems(Qt::DescendingOrder); }},
+    {"filled again",
+        [](QListWidget *list) {
             list->clear();
             for (int i = 500; i < 900; ++i)
                 list->addItem(makeItem(i));
-        });
-        QTest::newRow("other icon size") << Change([](QListWidget *list) { list->setIconSize({40, 40}); });
-        QTest::newRow("other font") << Change([](QListWidget *list) {
+        }},
+    {"other icon size",
+        [](QListWidget *list) {
+            list->setIconSize({40, 40});
+        }},
+    {"other font",
+        [](QListWidget *list) {
             QFont font = list->font();
             font.setPointSize(font.pointSize() + 6);
             list->setFont(font);
-        });
-        QTest::newRow("last row current")
-            << Change([](QListWidget *list) { list->setCurrentRow(list->count() - 1); });
-    }
+        }},
+    {"last row current", [](QListWidget *list) { list->setCurrentRow(list->count() - 1); }},
+};
 
+} // namespace
+
+class ItemListWidgetTest : public QuietTest {
+    Q_OBJECT
+
+private slots:
+    void rowsLieAsInAPlainList_data() { addRows(layoutChanges); }
     void rowsLieAsInAPlainList()
     {
-        QFETCH(Change, change);
+        const Change &change = currentRow(layoutChanges);
         // Before the list knows its rows, and after.
         for (bool measured : {false, true}) {
             QListWidget plain;
@@ -116,8 +113,8 @@ private slots:
             fill(&list, 500);
             if (measured)
                 QTRY_COMPARE(rectangles(&list), rectangles(&plain));
-            change(&plain);
-            change(&list);
+            change.apply(&plain);
+            change.apply(&list);
             QTRY_COMPARE(rectangles(&list), rectangles(&plain));
             QTRY_COMPARE(list.verticalScrollBar()->maximum(), plain.verticalScrollBar()->maximum());
             QTRY_COMPARE(list.horizontalScrollBar()->maximum(), plain.horizontalScrollBar()->maximum());
@@ -130,16 +127,17 @@ private slots:
         constexpr int count = 5000;
         ItemListWidget list;
         QListWidget plain;
-        fill(&list, count);
-        fill(&plain, count);
+        QListWidget *const lists[] = {&list, &plain};
+        for (QListWidget *each : lists)
+            fill(each, count);
         for (int row : {0, count - 1, count / 2}) {
-            for (QListWidget *each : {static_cast<QListWidget *>(&list), &plain}) {
+            for (QListWidget *each : lists) {
                 each->setCurrentRow(row);
                 each->grab();
             }
             QCOMPARE(list.visualItemRect(list.item(row)), plain.visualItemRect(plain.item(row)));
         }
-        for (QListWidget *each : {static_cast<QListWidget *>(&list), &plain}) {
+        for (QListWidget *each : lists) {
             each->verticalScrollBar()->setValue(count / 3);
             each->grab();
         }
@@ -150,18 +148,8 @@ private slots:
                 plain.visualItemRect(plain.item(list.row(item))).height());
     }
 
-    void onlyWhatChangesIsMeasured_data()
-    {
-        QTest::addColumn<Change>("change");
-        QTest::newRow("nothing") << Change([](QListWidget *) {});
-        QTest::newRow("edit") << Change(
-            [](QListWidget *list) { list->item(3)->setText(QStringLiteral("one\ntwo\nthree")); });
-        QTest::newRow("delete") << Change([](QListWidget *list) { delete list->takeItem(2); });
-    }
-
     void onlyWhatChangesIsMeasured()
     {
-        QFETCH(Change, change);
         constexpr int count = 2000;
         CountingStyle style;
         ItemListWidget list;
@@ -173,14 +161,16 @@ private slots:
         fill(&plain, count);
         QTRY_COMPARE(rectangles(&list), rectangles(&plain));
 
-        style.count = 0;
-        change(&list);
-        list.grab();
-        QVERIFY2(style.count < 100, qPrintable(QString::number(style.count)));
+        const auto measuredAfter = [&](const std::function<void()> &change) {
+            style.count = 0;
+            change();
+            list.grab();
+            return style.count;
+        };
+        QVERIFY(measuredAfter([] {}) < 100);
+        QVERIFY(measuredAfter([&] { list.item(3)->setText(QStringLiteral("one\ntwo\nthree")); }) < 100);
+        QVERIFY(measuredAfter([&] { delete list.takeItem(2); }) < 100);
     }
-
-private:
-    std::unique_ptr<LogWatch> m_log;
 };
 
 QTEST_MAIN(ItemListWidgetTest)

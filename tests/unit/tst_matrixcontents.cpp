@@ -7,8 +7,6 @@
 
 #include <memory>
 
-Q_DECLARE_METATYPE(MatrixContents)
-
 namespace {
 
 constexpr unsigned int huge = 4294967295u;
@@ -65,6 +63,42 @@ QString dumpLists(const Matrix &matrix)
     return lists.join(QLatin1Char('|'));
 }
 
+struct Size {
+    const char *name;
+    unsigned int rows, columns;
+    int tableRows, tableColumns;
+};
+const Size sizes[] = {
+    {"all there is", huge, huge, 99, 99},
+    {"rows without end", huge, 2, 99, 2},
+    {"columns without end", 2, huge, 2, 99},
+    {"one too many", 1, 100, 1, 99},
+};
+
+struct Written {
+    const char *name;
+    MatrixContents contents;
+    const char *lists;
+};
+const Written written[] = {
+    {"all fields", grid(1, 2, {{{0, 0}, cell("a", ":/i", "t", "go")}, {{0, 1}, {}}}), "a,|:/i,|t,|go,"},
+    {"by row",
+        grid(2, 2,
+            {{{1, 0}, cell("c")}, {{0, 1}, cell("b")}, {{0, 0}, cell("a")}, {{1, 1}, cell("", "", "x")}}),
+        "a,b,c,|,,,|,,,x|,,,"},
+    {"cell without a button in between", grid(2, 2, {{{0, 0}, cell("a")}, {{1, 0}, {}}, {{1, 1}, cell("d")}}),
+        "a,,,d|,,|,,|,,"},
+    {"cells outside the grid",
+        grid(1, 1,
+            {{{0, 0}, cell("a")}, {{0, 1}, cell("b")}, {{1, 0}, cell("c")}, {{-1, 0}, cell("d")},
+                {{0, -1}, cell("e")}}),
+        "a,,,,|,,,,|,,,,|,,,,"},
+    {"cell far out",
+        grid(2147483647, 2147483647, {{{2147483646, 2147483646}, cell("x")}, {{0, 0}, cell("a")}}),
+        "a,|,|,|,"},
+    {"empty", grid(0, 0, {}), "-|-|-|-"},
+};
+
 } // namespace
 
 class tst_MatrixContents : public QObject {
@@ -73,23 +107,10 @@ class tst_MatrixContents : public QObject {
 private slots:
     /// Nothing hangs or grows without bound, nothing is lost by an undo of an edit, and the table stays
     /// editable.
-    void foreignSizes_data()
-    {
-        QTest::addColumn<unsigned int>("rows");
-        QTest::addColumn<unsigned int>("columns");
-        QTest::addColumn<int>("tableRows");
-        QTest::addColumn<int>("tableColumns");
-        QTest::newRow("all there is") << huge << huge << 99 << 99;
-        QTest::newRow("rows without end") << huge << 2u << 99 << 2;
-        QTest::newRow("columns without end") << 2u << huge << 2 << 99;
-        QTest::newRow("one too many") << 1u << 100u << 1 << 99;
-    }
+    void foreignSizes_data() { addRows(sizes); }
     void foreignSizes()
     {
-        QFETCH(unsigned int, rows);
-        QFETCH(unsigned int, columns);
-        QFETCH(int, tableRows);
-        QFETCH(int, tableColumns);
+        const auto &[name, rows, columns, tableRows, tableColumns] = currentRow(sizes);
         QStringList texts = numbered(300);
         while (quint64(texts.size()) > quint64(rows) * columns)
             texts.removeLast();
@@ -114,29 +135,11 @@ private slots:
         QCOMPARE(pop.textList().mid(0, texts.size()), texts);
     }
 
-    void writesRowByRow_data()
-    {
-        QTest::addColumn<MatrixContents>("contents");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("all fields") << grid(1, 2, {{{0, 0}, cell("a", ":/i", "t", "go")}, {{0, 1}, {}}})
-                                    << "a,|:/i,|t,|go,";
-        QTest::newRow("by row") << grid(2, 2,
-            {{{1, 0}, cell("c")}, {{0, 1}, cell("b")}, {{0, 0}, cell("a")}, {{1, 1}, cell("", "", "x")}})
-                                << "a,b,c,|,,,|,,,x|,,,";
-        QTest::newRow("cell without a button in between")
-            << grid(2, 2, {{{0, 0}, cell("a")}, {{1, 0}, {}}, {{1, 1}, cell("d")}}) << "a,,,d|,,|,,|,,";
-        QTest::newRow("cells outside the grid") << grid(1, 1,
-            {{{0, 0}, cell("a")}, {{0, 1}, cell("b")}, {{1, 0}, cell("c")}, {{-1, 0}, cell("d")},
-                {{0, -1}, cell("e")}}) << "a,,,,|,,,,|,,,,|,,,,";
-        QTest::newRow("cell far out")
-            << grid(2147483647, 2147483647, {{{2147483646, 2147483646}, cell("x")}, {{0, 0}, cell("a")}})
-            << "a,|,|,|,";
-        QTest::newRow("empty") << grid(0, 0, {}) << "-|-|-|-";
-    }
+    void writesRowByRow_data() { addRows(written); }
     void writesRowByRow()
     {
-        QFETCH(MatrixContents, contents);
-        QFETCH(QString, expected);
+        const MatrixContents &contents = currentRow(written).contents;
+        const QString expected = QLatin1String(currentRow(written).lists);
         const QStringList old = words("o l d");
         Vexa::MatrixRadioButtons radio;
         setLists(radio, 5, 6, {old, old, old, old});
@@ -217,13 +220,9 @@ private slots:
         const MatrixContents contents = full(2, QStringLiteral("%1%2"));
         QVERIFY(contents == full(2, QStringLiteral("%1%2")));
         QVERIFY(contents != full(2, QStringLiteral("%2%1")));
+        QVERIFY(contents != grid(3, 2, contents.items));
+        QVERIFY(contents != grid(2, 1, contents.items));
         MatrixContents other = contents;
-        other.rowCount = 3;
-        QVERIFY(contents != other);
-        other = contents;
-        other.columnCount = 1;
-        QVERIFY(contents != other);
-        other = contents;
         other.items.remove({1, 1});
         QVERIFY(contents != other);
         other.shareEqualCells(contents);

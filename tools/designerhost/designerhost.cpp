@@ -15,10 +15,12 @@
 #include <private/formwindowbase_p.h>
 #include <private/qdesigner_dnditem_p.h>
 #include <private/qdesigner_widgetbox_p.h>
+#include <private/ui4_p.h>
 
 #include <QtCore/QBuffer>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QVBoxLayout>
 #include <QtWidgets/QWidget>
@@ -37,6 +39,41 @@ public:
         init(ui, nullptr, decoration, globalPosition);
     }
 };
+
+/// The size in which a widget leaves the widget box: the one of its text there, or Qt's for a widget that
+/// nobody gave a size.
+QSize sizeInWidgetBox(const DomWidget &widget)
+{
+    const auto properties = widget.elementProperty();
+    for (const DomProperty *property : properties) {
+        if (property->attributeName() == QLatin1String("geometry") && property->elementRect())
+            return {property->elementRect()->elementWidth(), property->elementRect()->elementHeight()};
+    }
+    return {100, 30};
+}
+
+/// Of the process: a menu without a parent does not tell whose it is.
+int hosts = 0;
+
+/// Designer makes the submenus of its task menus and the one of its action editor without a parent, and their
+/// actions too, and leaves them.
+void deleteForgottenMenus()
+{
+    QList<QPointer<QMenu>> menus;
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (auto *menu = qobject_cast<QMenu *>(window))
+            menus += menu;
+    }
+    for (const QPointer<QMenu> &menu : qAsConst(menus)) {
+        const auto actions = menu ? menu->actions() : QList<QAction *>();
+        for (QAction *action : actions) {
+            if (!action->parent())
+                delete action;
+        }
+        delete menu;
+    }
+}
 
 QString withoutMnemonic(QString text) { return text.remove(QLatin1Char('&')); }
 
@@ -68,6 +105,7 @@ struct DesignerHost::Private {
 DesignerHost::DesignerHost(const QStringList &libraryPaths)
     : d(new Private)
 {
+    ++hosts;
     // The form editor looks for plugins when it is made, under the library paths of the process.
     const QStringList applicationPaths = QCoreApplication::libraryPaths();
     QCoreApplication::setLibraryPaths(libraryPaths);
@@ -100,6 +138,9 @@ DesignerHost::~DesignerHost()
         delete frame;
     for (const QPointer<QWidget> &pane : qAsConst(d->panes))
         delete pane;
+    d->root.reset();
+    if (--hosts == 0)
+        deleteForgottenMenus();
 }
 
 QDesignerFormEditorInterface *DesignerHost::core() const { return d->core; }
@@ -168,9 +209,16 @@ QWidget *DesignerHost::drop(FormWindowBase *form, const QString &className, cons
     if (!ui)
         return nullptr;
     const QPoint globalPosition = form->mapToGlobal(position);
-    BoxItem item(ui, new QWidget, globalPosition);
+    auto *decoration = new QWidget;
+    decoration->setGeometry({globalPosition, sizeInWidgetBox(*ui->elementWidget())});
+    BoxItem item(ui, decoration, globalPosition);
     QWidget *target = form->widgetUnderMouse(position, FormWindowBase::FindSingleSelectionDropTarget);
-    if (!target || !form->dropWidgets({&item}, target, globalPosition))
+    if (!target)
+        return nullptr;
+    // A drag tells the layout under it where the widget is to go; without that, a drop ends in a cell of the
+    // past.
+    form->highlightWidget(target, target->mapFromGlobal(globalPosition));
+    if (!form->dropWidgets({&item}, target, globalPosition))
         return nullptr;
     return form->cursor()->current();
 }

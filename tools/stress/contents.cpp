@@ -45,11 +45,11 @@ QStringList textsOfOptions(const Options *options, const QStringList &toolTips)
 
 QStringList textsOfGrid(const QWidget *grid)
 {
-    // The dialog's spin boxes go from 1 to 99.
-    const int rows = qBound(1, grid->property("row").toInt(), 99);
-    const int columns = qBound(1, grid->property("column").toInt(), 99);
+    // The dialog shows 99 rows and columns at most. Its spin boxes begin at 1, of a grid without cells too.
+    const int rows = qBound(0, grid->property("row").toInt(), 99);
+    const int columns = qBound(0, grid->property("column").toInt(), 99);
     const QStringList all = grid->property("textList").toStringList();
-    QStringList texts{QString::number(rows), QString::number(columns)};
+    QStringList texts{QString::number(qMax(1, rows)), QString::number(qMax(1, columns))};
     for (int i = 0; i < rows * columns; ++i)
         texts += all.value(i);
     return texts;
