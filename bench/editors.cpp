@@ -3,8 +3,8 @@
 #include "application.h"
 #include "designerhost.h"
 #include "groups.h"
+#include "measure.h"
 #include "report.h"
-#include "session.h"
 
 #include <private/formwindowbase_p.h>
 #include <private/qdesigner_utils_p.h>

@@ -4,8 +4,8 @@
 #include "application.h"
 #include "designerhost.h"
 #include "groups.h"
+#include "measure.h"
 #include "report.h"
-#include "session.h"
 
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>

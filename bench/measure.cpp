@@ -1,4 +1,4 @@
-#include "session.h"
+#include "measure.h"
 
 #include "application.h"
 
