@@ -1,5 +1,6 @@
 #include "contents.h"
 #include "dialoghand.h"
+#include "formtext.h"
 #include "monkey.h"
 
 #include <sorrel/SrDrawbackBoxGroup.h>
@@ -13,66 +14,11 @@
 #include <private/formwindowbase_p.h>
 #include <private/qdesigner_utils_p.h>
 
-#include <QtCore/QRegularExpression>
 #include <QtWidgets/QUndoStack>
 
-namespace {
+#include <iterator>
 
-/// The first line in which two texts differ.
-QString difference(const QString &one, const QString &two)
-{
-    const QStringList ones = one.split(QLatin1Char('\n')), twos = two.split(QLatin1Char('\n'));
-    for (int i = 0; i < qMax(ones.size(), twos.size()); ++i) {
-        if (ones.value(i) != twos.value(i))
-            return QStringLiteral("line %1: '%2' and '%3'")
-                .arg(i + 1)
-                .arg(ones.value(i).trimmed(), twos.value(i).trimmed());
-    }
-    return {};
-}
-
-/// The form editor names the widget behind a layout on a form only when it loads it, and then has other
-/// neighbours in its list of what lies above what.
-QString withoutLayoutNames(QString text)
-{
-    static const QRegularExpression layoutWidget(
-        QStringLiteral("<widget class=\"QWidget\" name=\"(layoutWidget(_?\\d+)?)?\">"));
-    static const QRegularExpression zOrder(QStringLiteral("\\n *<zorder>[^<]*</zorder>"));
-    return text.remove(zOrder).replace(layoutWidget, QStringLiteral("<widget class=\"QWidget\" name=\"\">"));
-}
-
-/// An edit of lists of different lengths makes them equally long, and its undo does not shorten them again.
-QString withoutEmptyEntries(QString text)
-{
-    static const QRegularExpression field(QStringLiteral(
-        "\\s*<property name=\"(text|icon|toolTip|data|action)\">\\s*<string[^>]*/>\\s*</property>"));
-    static const QRegularExpression item(QStringLiteral("\\s*<item>\\s*</item>"));
-    static const QRegularExpression string(QStringLiteral("\\s*<string/>"));
-    static const QRegularExpression list(
-        QStringLiteral("\\s*<property name=\"\\w+(List|Tips)\">\\s*"
-                       "(<stringlist[^>]*/>|<stringlist[^>]*>\\s*</stringlist>)\\s*</property>"));
-    return text.remove(field).remove(item).remove(string).remove(list);
-}
-
-} // namespace
-
-QString Monkey::text() const
-{
-    QString text = DesignerHost::save(m_form);
-    // A page that becomes current is no undo step of the form editor, neither is a switch of resources.
-    static const QRegularExpression currentIndex(
-        QStringLiteral("\\n *<property name=\"currentIndex\">\\s*<number>-?\\d+</number>\\s*</property>"));
-    static const QRegularExpression resources(
-        QStringLiteral("<resources>.*</resources>"), QRegularExpression::DotMatchesEverythingOption);
-    // The form grows with a layout that does not fit and keeps that size when the layout is undone.
-    static const QRegularExpression size(QStringLiteral("<property name=\"geometry\">.*?</property>"),
-        QRegularExpression::DotMatchesEverythingOption);
-    const QRegularExpressionMatch ofForm = size.match(text);
-    text.remove(ofForm.capturedStart(), ofForm.capturedLength());
-    text = withoutEmptyEntries(withoutLayoutNames(text)).remove(currentIndex);
-    text.replace(resources, QStringLiteral("<resources/>"));
-    return text;
-}
+QString Monkey::text() const { return comparableHistory(DesignerHost::save(m_form)); }
 
 void Monkey::checkStep(int indexBefore, int countBefore, bool walked)
 {
@@ -86,7 +32,7 @@ void Monkey::checkStep(int indexBefore, int countBefore, bool walked)
     if (!walked) {
         // Everything above is a new future.
         while (!m_texts.isEmpty() && m_texts.lastKey() > indexBefore)
-            m_texts.remove(m_texts.lastKey());
+            m_texts.erase(std::prev(m_texts.end()));
     }
     const auto known = m_texts.constFind(index);
     if (known == m_texts.constEnd())
@@ -94,7 +40,7 @@ void Monkey::checkStep(int indexBefore, int countBefore, bool walked)
     else if (*known != now)
         finding(QStringLiteral("the form differs from what it was at step %1 of its history (%2): %3")
                     .arg(index)
-                    .arg(history()->text(index), difference(*known, now)));
+                    .arg(history()->text(index), firstDifference(*known, now)));
 }
 
 void Monkey::checkHistory(Random &)
@@ -111,7 +57,7 @@ void Monkey::checkHistory(Random &)
             finding(QStringLiteral("%1 to step %2 of the history gives another form (next: %3): %4")
                         .arg(QLatin1String(direction))
                         .arg(history()->index())
-                        .arg(history()->text(history()->index()), difference(*known, now)));
+                        .arg(history()->text(history()->index()), firstDifference(*known, now)));
     };
     while (history()->canUndo() && m_finding.isEmpty()) {
         history()->undo();
@@ -140,9 +86,9 @@ void Monkey::checkReload()
 
 void Monkey::compareSaved(const QString &saved, const QString &again)
 {
-    if (withoutLayoutNames(again) != withoutLayoutNames(saved))
-        finding(QStringLiteral("save, load, save: ")
-            + difference(withoutLayoutNames(saved), withoutLayoutNames(again)));
+    const QString different = firstDifference(comparableForm(saved), comparableForm(again));
+    if (!different.isEmpty())
+        finding(QStringLiteral("save, load, save: ") + different);
 }
 
 void Monkey::checkControls()

@@ -15,7 +15,9 @@ class QUndoStack;
 /// all is well.
 class Monkey {
 public:
-    Monkey();
+    /// \a withoutControls: widgets of Designer's own are dropped in the place of the controls, to tell its
+    /// faults from the plugin's.
+    explicit Monkey(bool withoutControls);
 
     /// An action that a user makes about as often as others.
     static QByteArray randomAction(Random &random);
@@ -81,6 +83,7 @@ private:
     void checkReload();
     void compareSaved(const QString &saved, const QString &again);
 
+    const bool m_withoutControls;
     LogWatch m_log;
     QTemporaryDir m_folder;
     DesignerHost m_host;

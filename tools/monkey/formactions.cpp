@@ -1,0 +1,86 @@
+#include "dialoghand.h"
+#include "monkey.h"
+
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
+
+#include <private/formwindowbase_p.h>
+#include <private/qtresourcemodel_p.h>
+
+#include <QtCore/QBuffer>
+#include <QtWidgets/QUndoStack>
+
+void Monkey::switchResources(Random &random)
+{
+    QStringList paths;
+    for (const char *name : {"one.qrc", "two.qrc"}) {
+        if (random.oneIn(2))
+            paths += m_folder.filePath(QLatin1String(name));
+    }
+    ++m_done["switchResources"];
+    m_form->resourceSet()->activateResourceFilePaths(paths);
+}
+
+void Monkey::preview(Random &random)
+{
+    auto *manager = m_host.core()->formWindowManager();
+    ++m_done["preview"];
+    if (random.oneIn(2)) {
+        manager->createPreviewPixmap();
+        return;
+    }
+    manager->showPreview();
+    settle();
+    manager->closeAllPreviews();
+}
+
+void Monkey::undoSome(Random &random)
+{
+    m_walked = true;
+    for (int i = random.below(6); i >= 0 && history()->canUndo(); --i) {
+        history()->undo();
+        ++m_done["undo"];
+    }
+}
+
+void Monkey::redoSome(Random &random)
+{
+    m_walked = true;
+    for (int i = random.below(6); i >= 0 && history()->canRedo(); --i) {
+        history()->redo();
+        ++m_done["redo"];
+    }
+}
+
+void Monkey::saveAndReload(Random &)
+{
+    QByteArray xml = DesignerHost::save(m_form).toUtf8();
+    QBuffer device(&xml);
+    device.open(QIODevice::ReadOnly);
+    if (!m_form->setContents(&device))
+        return finding(QStringLiteral("the saved form does not open"));
+    ++m_done["saveAndReload"];
+    settle();
+    compareSaved(QString::fromUtf8(xml), DesignerHost::save(m_form));
+    forgetHistory();
+    m_walked = true;
+}
+
+void Monkey::switchForm(Random &)
+{
+    ++m_done["switchForm"];
+    if (!m_other)
+        m_other = newForm();
+    settle();
+    const QPointer<FormWindow> now = m_form;
+    m_form = m_other;
+    m_other = now;
+    m_host.core()->formWindowManager()->setActiveFormWindow(m_form);
+    forgetHistory();
+}
+
+void Monkey::closeForm(Random &)
+{
+    ++m_done["closeForm"];
+    openFresh();
+}

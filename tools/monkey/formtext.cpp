@@ -1,0 +1,114 @@
+#include "formtext.h"
+
+#include <QtCore/QMap>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QStringList>
+#include <QtXml/QDomDocument>
+
+#include <algorithm>
+
+namespace {
+
+bool isProperty(const QDomElement &element, const QString &namePattern)
+{
+    return element.tagName() == QLatin1String("property")
+        && QRegularExpression(QRegularExpression::anchoredPattern(namePattern))
+               .match(element.attribute(QStringLiteral("name")))
+               .hasMatch();
+}
+
+bool isEmptyEntry(const QDomElement &element)
+{
+    if (element.tagName() == QLatin1String("string"))
+        return element.text().isEmpty() && element.parentNode().nodeName() == QLatin1String("stringlist");
+    return element.tagName() == QLatin1String("item") && element.attributes().isEmpty()
+        && element.parentNode().nodeName() == QLatin1String("widget") && element.text().trimmed().isEmpty();
+}
+
+bool isOfHistory(const QDomElement &element)
+{
+    if (element.tagName() == QLatin1String("resources") || isEmptyEntry(element))
+        return false;
+    if (isProperty(element, QStringLiteral("currentIndex")))
+        return false;
+    return !isProperty(element, QStringLiteral("text|icon|toolTip|data|action|\\w+(List|Tips)"))
+        || !element.text().trimmed().isEmpty();
+}
+
+/// Of an icon that has a theme alone, which the form editor reads again as one with a file of no name.
+bool isFileOfThemeIcon(const QDomNode &node)
+{
+    const QDomElement icon = node.parentNode().toElement();
+    return icon.tagName() == QLatin1String("iconset") && icon.hasAttribute(QStringLiteral("theme"))
+        && (node.isText() ? node.nodeValue() : node.toElement().text()).trimmed() == QLatin1String(".");
+}
+
+QStringList attributes(const QDomElement &element)
+{
+    static const QRegularExpression layoutWidget(QStringLiteral("^layoutWidget(_?\\d+)?$"));
+    // An item of a layout says its cell.
+    if (element.tagName() == QLatin1String("item"))
+        return {};
+    QMap<QString, QString> sorted;
+    const QDomNamedNodeMap all = element.attributes();
+    for (int i = 0; i < all.count(); ++i)
+        sorted.insert(all.item(i).nodeName(), all.item(i).nodeValue());
+    if (element.tagName() == QLatin1String("widget")) {
+        sorted.remove(QStringLiteral("native"));
+        sorted[QStringLiteral("name")].remove(layoutWidget);
+    }
+    QStringList texts;
+    for (auto it = sorted.cbegin(); it != sorted.cend(); ++it)
+        texts += it.key() + QLatin1Char('=') + it.value();
+    return texts;
+}
+
+QString comparable(const QDomElement &element, int depth, bool history)
+{
+    QString own;
+    QStringList children;
+    for (QDomNode node = element.firstChild(); !node.isNull(); node = node.nextSibling()) {
+        if (isFileOfThemeIcon(node))
+            continue;
+        if (node.isText())
+            own += node.nodeValue();
+        const QDomElement child = node.toElement();
+        if (child.isNull() || child.tagName() == QLatin1String("zorder")
+            || isProperty(child, QStringLiteral("geometry")) || (history && !isOfHistory(child)))
+            continue;
+        children += comparable(child, depth + 1, history);
+    }
+    if (element.tagName() == QLatin1String("layout"))
+        std::sort(children.begin(), children.end());
+    return QString(depth, QLatin1Char(' ')) + element.tagName() + QLatin1Char(' ')
+        + attributes(element).join(QLatin1Char(' ')) + QLatin1String(": ")
+        + (children.isEmpty() ? own : QString()) + QLatin1Char('\n') + children.join(QString());
+}
+
+QString comparable(const QString &ui, bool history)
+{
+    QDomDocument document;
+    QString error;
+    if (!document.setContent(ui, &error))
+        return QStringLiteral("not readable: ") + error;
+    return comparable(document.documentElement(), 0, history);
+}
+
+} // namespace
+
+QString comparableForm(const QString &ui) { return comparable(ui, false); }
+
+QString comparableHistory(const QString &ui) { return comparable(ui, true); }
+
+QString firstDifference(const QString &one, const QString &two)
+{
+    const QStringList ones = one.split(QLatin1Char('\n'));
+    const QStringList twos = two.split(QLatin1Char('\n'));
+    for (int i = 0; i < qMax(ones.size(), twos.size()); ++i) {
+        if (ones.value(i) != twos.value(i))
+            return QStringLiteral("line %1: '%2' and '%3'")
+                .arg(i + 1)
+                .arg(ones.value(i).trimmed(), twos.value(i).trimmed());
+    }
+    return {};
+}
