@@ -9,6 +9,7 @@
 #include <private/qdesigner_utils_p.h>
 
 #include <QtCore/QScopedValueRollback>
+#include <QtCore/QSignalBlocker>
 
 using qdesigner_internal::DesignerPropertyManager;
 using qdesigner_internal::PropertySheetStringValue;
@@ -58,8 +59,13 @@ MatrixContents MatrixEditor::load(const MatrixContents &contents, QWidget *matri
     // Cells without a button are in the table all the same, and of a huge grid not every cell is.
     m_changed = contents.rowCount != rows || contents.columnCount != columns
         || contents.items.size() != rows * columns;
-    m_ui->rowCounts->setValue(rows);
-    m_ui->colCounts->setValue(columns);
+    {
+        // The table has this size already.
+        const QSignalBlocker rowCountsBlocker(m_ui->rowCounts);
+        const QSignalBlocker colCountsBlocker(m_ui->colCounts);
+        m_ui->rowCounts->setValue(rows);
+        m_ui->colCounts->setValue(columns);
+    }
     setupEditor(matrix, matrixButtonPropList);
     if (columns > 0 && rows > 0)
         m_ui->tableWidget->setCurrentCell(0, 0);
