@@ -290,24 +290,25 @@ void measureLists(DesignerHost &host, Report &report, const Effort &effort)
 
 void measureMatrix(DesignerHost &host, Report &report, const Effort &effort)
 {
-    report.section(
-        QStringLiteral("Push button matrix 99 x 99; Designer's \"Edit Items...\" of a QTableWidget"));
-    Contestant ours{
-        host, QStringLiteral("Vexa::MatrixPushButtons"), QStringLiteral("Edit Buttons"), fillMatrix};
-    Contestant theirs{host, QStringLiteral("QTableWidget"), QStringLiteral("Edit Items..."), fillTable};
-    compete(ours, theirs, gridSide * gridSide, effort.rounds, switchCells);
-    struct Row {
-        const char *what;
-        const char *key;
-        double limit;
-    };
-    for (const Row &row : {Row{"dialog shown", "shown", 0.7}, Row{"Ok, one cell changed", "Ok", 0.6},
-             Row{"undo", "undo", 0.7}, Row{"Ok, unchanged", "Ok unchanged", 0.4}})
-        report.ratio(QLatin1String(row.what), milliseconds, ours.samples[QLatin1String(row.key)],
-            theirs.samples[QLatin1String(row.key)], {row.limit});
-    report.check(QStringLiteral("Ok, unchanged: no command"), !ours.unchangedPushed);
-    report.ratio(QStringLiteral("redo"), milliseconds, ours.samples[QStringLiteral("redo")],
-        theirs.samples[QStringLiteral("redo")]);
-    report.value(
-        QStringLiteral("current cell switched"), milliseconds, ours.samples[QStringLiteral("switch")], {1.0});
+    for (const auto &[name, className] : {std::pair("Push button matrix", "Vexa::MatrixPushButtons"),
+             {"Pop button matrix", "Vexa::MatrixPopButtons"}}) {
+        report.section(QStringLiteral("%1 99 x 99; Designer's \"Edit Items...\" of a QTableWidget")
+                           .arg(QLatin1String(name)));
+        Contestant ours{host, QLatin1String(className), QStringLiteral("Edit Buttons"), fillMatrix};
+        Contestant theirs{host, QStringLiteral("QTableWidget"), QStringLiteral("Edit Items..."), fillTable};
+        compete(ours, theirs, gridSide * gridSide, effort.rounds, switchCells);
+        struct Row {
+            const char *what;
+            const char *key;
+            Target target;
+        };
+        for (const Row &row : {Row{"dialog shown", "shown", {0.7}}, Row{"Ok, one cell changed", "Ok", {0.6}},
+                 Row{"undo", "undo", {0.7}}, Row{"redo", "redo", {}},
+                 Row{"Ok, unchanged", "Ok unchanged", {0.4}}})
+            report.ratio(QLatin1String(row.what), milliseconds, ours.samples[QLatin1String(row.key)],
+                theirs.samples[QLatin1String(row.key)], row.target);
+        report.check(QStringLiteral("Ok, unchanged: no command"), !ours.unchangedPushed);
+        report.value(QStringLiteral("current cell switched"), milliseconds,
+            ours.samples[QStringLiteral("switch")], {1.0});
+    }
 }
