@@ -113,7 +113,7 @@ protected:
 
     QString imageFile() const
     {
-        const QString path = m_dir.filePath(QStringLiteral("icon.png"));
+        QString path = m_dir.filePath(QStringLiteral("icon.png"));
         saveImage(path);
         return path;
     }

@@ -37,7 +37,7 @@ protected:
     QString reopened(const QString &ui, const QString &fileName = QString())
     {
         FormWindow *form = open(ui, fileName);
-        const QString saved = form ? DesignerHost::save(form) : QString();
+        QString saved = form ? DesignerHost::save(form) : QString();
         if (form)
             close(form);
         return saved;

@@ -258,7 +258,7 @@ private:
     }
     QString write(const QByteArray &text)
     {
-        const QString fileName = m_folder.filePath(QStringLiteral("form.ui"));
+        QString fileName = m_folder.filePath(QStringLiteral("form.ui"));
         QFile file(fileName);
         file.open(QIODevice::WriteOnly);
         file.write(text);

@@ -160,7 +160,8 @@ private slots:
     void collectionCastsToItsInterfaceOnly()
     {
         QObject *collection = m_loader.instance();
-        QVERIFY2(collection, qPrintable(m_loader.errorString()));
+        if (!collection)
+            QFAIL(qPrintable(m_loader.errorString()));
         for (const char *name : {"CpPlugin", "QDesignerCustomWidgetCollectionInterface",
                  "org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface"})
             QVERIFY2(collection->qt_metacast(name), name);

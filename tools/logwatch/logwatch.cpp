@@ -3,6 +3,7 @@
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -57,9 +58,7 @@ void LogWatch::allow(const QString &pattern)
 
 QStringList LogWatch::takeUnexpected()
 {
-    const QStringList messages = state->unexpected;
-    state->unexpected.clear();
-    return messages;
+    return std::exchange(state->unexpected, {});
 }
 
 QStringList LogWatch::all() const { return state->all; }

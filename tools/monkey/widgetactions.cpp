@@ -24,7 +24,6 @@
 #include <QtWidgets/QUndoStack>
 
 using qdesigner_internal::PropertySheetEnumValue;
-using qdesigner_internal::PropertySheetFlagValue;
 using qdesigner_internal::PropertySheetIconValue;
 using qdesigner_internal::PropertySheetPixmapValue;
 using qdesigner_internal::PropertySheetStringListValue;

@@ -50,7 +50,7 @@ ChildResult runChild(const QStringList &arguments, int patience)
         if (now != last) {
             last = now;
             sinceProgress.restart();
-        } else if (sinceProgress.elapsed() > patience * 1000) {
+        } else if (sinceProgress.elapsed() > patience * 1000LL) {
             process.kill();
             process.waitForFinished();
             result.end = QStringLiteral("no progress for %1 s").arg(patience);
