@@ -78,7 +78,8 @@ QString comparable(const QDomElement &element, int depth, bool history)
             continue;
         children += comparable(child, depth + 1, history);
     }
-    if (element.tagName() == QLatin1String("layout"))
+    const bool splitter = element.attribute(QStringLiteral("class")) == QLatin1String("QSplitter");
+    if (element.tagName() == QLatin1String("layout") || (splitter && history))
         std::sort(children.begin(), children.end());
     return QString(depth, QLatin1Char(' ')) + element.tagName() + QLatin1Char(' ')
         + attributes(element).join(QLatin1Char(' ')) + QLatin1String(": ")
