@@ -43,7 +43,7 @@ bool isFileOfThemeIcon(const QDomNode &node)
         && (node.isText() ? node.nodeValue() : node.toElement().text()).trimmed() == QLatin1String(".");
 }
 
-QStringList attributes(const QDomElement &element)
+QStringList attributes(const QDomElement &element, bool history)
 {
     static const QRegularExpression layoutWidget(QStringLiteral("^layoutWidget(_?\\d+)?$"));
     // An item of a layout says its cell.
@@ -53,6 +53,9 @@ QStringList attributes(const QDomElement &element)
     const QDomNamedNodeMap all = element.attributes();
     for (int i = 0; i < all.count(); ++i)
         sorted.insert(all.item(i).nodeName(), all.item(i).nodeValue());
+    // The resource file that has the icon at the moment.
+    if (history)
+        sorted.remove(QStringLiteral("resource"));
     if (element.tagName() == QLatin1String("widget")) {
         sorted.remove(QStringLiteral("native"));
         sorted[QStringLiteral("name")].remove(layoutWidget);
@@ -82,7 +85,7 @@ QString comparable(const QDomElement &element, int depth, bool history)
     if (element.tagName() == QLatin1String("layout") || (splitter && history))
         std::sort(children.begin(), children.end());
     return QString(depth, QLatin1Char(' ')) + element.tagName() + QLatin1Char(' ')
-        + attributes(element).join(QLatin1Char(' ')) + QLatin1String(": ")
+        + attributes(element, history).join(QLatin1Char(' ')) + QLatin1String(": ")
         + (children.isEmpty() ? own : QString()) + QLatin1Char('\n') + children.join(QString());
 }
 
