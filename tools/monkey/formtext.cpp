@@ -25,6 +25,14 @@ bool isEmptyEntry(const QDomElement &element)
         && element.parentNode().nodeName() == QLatin1String("widget") && element.text().trimmed().isEmpty();
 }
 
+/// The form editor counts entries that it does not save, those with neither text nor icon, as in a QComboBox.
+bool isIndexOfComboBox(const QDomElement &element)
+{
+    return isProperty(element, QStringLiteral("currentIndex"))
+        && element.parentNode().toElement().attribute(QStringLiteral("class"))
+        == QLatin1String("Vexa::ComboBox");
+}
+
 bool isOfHistory(const QDomElement &element)
 {
     if (element.tagName() == QLatin1String("resources") || isEmptyEntry(element))
@@ -77,7 +85,8 @@ QString comparable(const QDomElement &element, int depth, bool history)
             own += node.nodeValue();
         const QDomElement child = node.toElement();
         if (child.isNull() || child.tagName() == QLatin1String("zorder")
-            || isProperty(child, QStringLiteral("geometry")) || (history && !isOfHistory(child)))
+            || isProperty(child, QStringLiteral("geometry")) || isIndexOfComboBox(child)
+            || (history && !isOfHistory(child)))
             continue;
         children += comparable(child, depth + 1, history);
     }
