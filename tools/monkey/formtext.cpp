@@ -54,6 +54,7 @@ bool isFileOfThemeIcon(const QDomNode &node)
 QStringList attributes(const QDomElement &element, bool history)
 {
     static const QRegularExpression layoutWidget(QStringLiteral("^layoutWidget(_?\\d+)?$"));
+    static const QRegularExpression layoutName(QStringLiteral("^[a-z]+Layout(_\\d+)?$"));
     // An item of a layout says its cell.
     if (element.tagName() == QLatin1String("item"))
         return {};
@@ -61,9 +62,13 @@ QStringList attributes(const QDomElement &element, bool history)
     const QDomNamedNodeMap all = element.attributes();
     for (int i = 0; i < all.count(); ++i)
         sorted.insert(all.item(i).nodeName(), all.item(i).nodeValue());
-    // The resource file that has the icon at the moment.
-    if (history)
+    if (history) {
+        // The resource file that has the icon at the moment.
         sorted.remove(QStringLiteral("resource"));
+        // A layout that is made again by a redo takes a name that is free then.
+        if (element.tagName() == QLatin1String("layout"))
+            sorted[QStringLiteral("name")].remove(layoutName);
+    }
     if (element.tagName() == QLatin1String("widget")) {
         sorted.remove(QStringLiteral("native"));
         sorted[QStringLiteral("name")].remove(layoutWidget);
