@@ -307,11 +307,13 @@ void Monkey::changeProperty(Random &random)
     else
         name = sheet->propertyName(random.below(sheet->count()));
     const int index = sheet->indexOf(name);
-    // Names have to stay unique, a size or a hidden widget makes the rest of the steps pointless, and
-    // Designer takes back a least size but not the growth that came with it.
+    // Names have to stay unique, a size or a hidden widget makes the rest of the steps pointless, Designer
+    // takes back a least size but not the growth that came with it, and a combo box has its items in the
+    // first column whatever the one that it shows.
     static const QStringList kept{QStringLiteral("objectName"), QStringLiteral("layoutName"),
         QStringLiteral("minimumSize"), QStringLiteral("maximumSize"), QStringLiteral("maximumWidth"),
-        QStringLiteral("maximumHeight"), QStringLiteral("visible"), QStringLiteral("enabled")};
+        QStringLiteral("maximumHeight"), QStringLiteral("visible"), QStringLiteral("enabled"),
+        QStringLiteral("modelColumn")};
     if (!sheet->isVisible(index) || kept.contains(name))
         return;
     // What these lists have beyond the cells of a grid or the items of a combo box is left behind by an edit
