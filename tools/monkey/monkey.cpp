@@ -31,6 +31,8 @@ Monkey::Monkey(bool withoutControls)
     m_log.allow(QStringLiteral("(Form|Grid)LayoutHelper::removeWidget : Attempt to remove .*"));
     // Designer has no geometry to go back to for some widgets and cannot check every button, and says so.
     m_log.allow(QStringLiteral("Unable to (reset|set) property .*\"(geometry|checked)\".*"));
+    // What a combo box of Qt's own says of a negative number too.
+    m_log.allow(QStringLiteral("QComboBox::setMax(Count|VisibleItems): Invalid .*"));
     // The container extension is meant to report every switch of pages.
     m_log.allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged -?\\d+"));
 }

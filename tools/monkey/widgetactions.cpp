@@ -139,6 +139,12 @@ void Monkey::layOut(Random &random)
         DesignerHost::select(m_form, m_form->mainContainer());
     settle();
     QAction *action = m_host.core()->formWindowManager()->action(random.pick(actions));
+    // Widgets of different parents get an empty layout, which Designer's undo leaves behind.
+    const QDesignerFormWindowCursorInterface *cursor = m_form->cursor();
+    for (int i = 1; i < cursor->selectedWidgetCount(); ++i) {
+        if (cursor->selectedWidget(i)->parentWidget() != cursor->selectedWidget(0)->parentWidget())
+            return;
+    }
     if (!action->isEnabled())
         return;
     ++m_done["layOut"];
