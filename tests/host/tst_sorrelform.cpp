@@ -10,6 +10,10 @@
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
 namespace {
 
 struct Result {
@@ -18,9 +22,31 @@ struct Result {
     QByteArray errors;
 };
 
-Result run(const QStringList &arguments, const QString &folder = QString())
+/// The program, which may write this many bytes into a file: the next write stops short, the one after it
+/// fails, as on a full disk.
+class Process : public QProcess {
+public:
+    explicit Process(rlim_t greatestFile)
+        : m_greatestFile(greatestFile)
+    {
+    }
+
+protected:
+    void setupChildProcess() override
+    {
+        const rlimit limit{m_greatestFile, m_greatestFile};
+        ::signal(SIGXFSZ, SIG_IGN);
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+
+private:
+    const rlim_t m_greatestFile;
+};
+
+Result run(
+    const QStringList &arguments, const QString &folder = QString(), rlim_t greatestFile = RLIM_INFINITY)
 {
-    QProcess process;
+    Process process(greatestFile);
     process.setWorkingDirectory(folder);
     process.start(QStringLiteral(SORREL_FORM), arguments);
     Result result;
@@ -183,11 +209,17 @@ private slots:
             QTest::newRow(qPrintable(arguments.join(QLatin1Char(' ')))) << arguments << said;
         };
         row(words("check absent.ui"), QStringLiteral("absent.ui"));
-        row({QStringLiteral("check"), m_folder.path()}, m_folder.path());
         row(words("render absent.ui a.png"), QStringLiteral("absent.ui"));
         row(words("normalize absent.ui"), QStringLiteral("absent.ui"));
         row({QStringLiteral("render"), exampleForms().first(), QStringLiteral("/absent/a.png")},
             QStringLiteral("/absent/a.png"));
+        const QString pipe = m_folder.filePath(QStringLiteral("pipe.ui"));
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        for (const QString &file : {pipe, QStringLiteral("/dev/zero"), m_folder.path()}) {
+            row({QStringLiteral("check"), file}, QStringLiteral("not a regular file"));
+            row({QStringLiteral("render"), file, QStringLiteral("a.png")}, file + QLatin1String(": not a"));
+            row({QStringLiteral("normalize"), file}, file + QLatin1String(": not a regular file"));
+        }
         row({}, QStringLiteral("sorrel-form: "));
         row(words("polish a.ui"), QStringLiteral("sorrel-form: "));
         row(words("check"), QStringLiteral("sorrel-form: "));
@@ -226,11 +258,58 @@ private slots:
         QCOMPARE(run({QStringLiteral("normalize"), fileName}).exitCode, 0);
         QCOMPARE(read(fileName), once);
 
+        // A link stays one.
+        const QString link = m_folder.filePath(QStringLiteral("link.ui"));
+        QVERIFY(QFile::link(write(before), link));
+        QCOMPARE(run({QStringLiteral("normalize"), link}).exitCode, 0);
+        QCOMPARE(read(fileName), once);
+        QVERIFY(QFileInfo(link).isSymLink());
+
         // A form with findings stays as it is.
         const QByteArray bad = form(empty("QLabel") + empty("QLabel"));
         write(bad);
         QCOMPARE(run({QStringLiteral("normalize"), fileName}).exitCode, 1);
         QCOMPARE(read(fileName), bad);
+    }
+
+    void fullDisksLeaveFilesAsTheyWere_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<int>("labels");
+        QTest::newRow("form") << "form.ui" << 20;
+        QTest::newRow("form of many blocks") << "form.ui" << 500;
+        QTest::newRow("picture") << "old.png" << 500;
+    }
+    void fullDisksLeaveFilesAsTheyWere()
+    {
+        QFETCH(QString, file);
+        QFETCH(int, labels);
+        QByteArray text;
+        for (int i = 0; i < labels; ++i)
+            text += "<widget class=\"QLabel\" name=\"l" + QByteArray::number(i) + "\"/>";
+        const QString fileName = write(form(text));
+        const QString touched = m_folder.filePath(file);
+        const bool renders = touched != fileName;
+        if (renders)
+            QVERIFY(QFile::copy(fileName, touched));
+        const QByteArray before = read(touched);
+        const Result result = run(renders ? QStringList{QStringLiteral("render"), fileName, touched}
+                                          : QStringList{QStringLiteral("normalize"), fileName},
+            QString(), 100);
+        QVERIFY2(result.errors.contains(QFile::encodeName(touched) + ": File too large\n"), result.errors);
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(read(touched), before);
+        QCOMPARE(QDir(m_folder.path()).entryList({file + QStringLiteral("?*")}), QStringList());
+    }
+
+    void lostOutputIsNoSuccess()
+    {
+        Process process(RLIM_INFINITY);
+        process.setStandardOutputFile(QStringLiteral("/dev/full"));
+        process.start(QStringLiteral(SORREL_FORM), {QStringLiteral("check"), exampleForms().first()});
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitCode(), 2);
+        QVERIFY(process.readAllStandardError().contains("output"));
     }
 
     /// Read as UTF-8 it would lose what it says.
