@@ -151,7 +151,7 @@ void ButtonGrid::updateButtons()
                 continue;
             auto icon = icons.constFind(path);
             if (icon == icons.constEnd())
-                icon = icons.insert(path, iconFromPath(path));
+                icon = icons.insert(path, iconFromPath(path, this));
             countChange();
             button->setIcon(*icon);
             m_iconPaths[i] = path;

@@ -7,6 +7,8 @@
 #include <nui/Sorrel/template/SrAbstractOptions.h>
 
 #include "buttongrid.h"
+#include "formfolder.h"
+#include "keptitems.h"
 
 #include <private/ui4_p.h>
 
@@ -20,38 +22,42 @@ namespace Vexa {
 
 namespace {
 
-/// One list of a control and the name that its values have in an item.
+/// One list of a control and the name that its values had in the items of older forms.
 struct Field {
+    enum Kind { Text, Identifiers, IconPaths };
+
     const char *list;
     const char *inItem;
-    bool translated;
+    Kind kind;
 };
 
-enum class Place { Items, ItemsOfComboBox, Properties };
+/// What says how many entries a control has.
+enum class Count { LongestList, Items, Grid };
 
 struct Binding {
     const QMetaObject *control;
-    Place place;
+    Count count;
     QVector<Field> fields;
 };
 
-const Field textField{"textList", "text", true};
-const Field iconField{"iconList", "icon", false};
-const Field toolTipField{"toolTips", "toolTip", true};
-const Field dataField{"dataList", "data", false};
-const Field actionField{"actionList", "action", false};
+const Field textField{"textList", "text", Field::Text};
+const Field iconField{"iconList", "icon", Field::IconPaths};
+const Field toolTipField{"toolTips", "toolTip", Field::Text};
+const Field dataField{"dataList", "data", Field::Identifiers};
+const Field actionField{"actionList", "action", Field::Identifiers};
 const char *const gridSides[] = {"row", "column"};
 
 const QVector<Binding> &bindings()
 {
     static const QVector<Field> grid{textField, iconField, toolTipField, actionField};
     static const QVector<Binding> all{
-        {&AbstractOptions::staticMetaObject, Place::Items, {textField, iconField, toolTipField, dataField}},
-        {&CheckableTextComboBox::staticMetaObject, Place::Items,
-            {{"itemTextList", "text", true}, toolTipField}},
-        {&ComboBox::staticMetaObject, Place::ItemsOfComboBox, {actionField}},
-        {&AbstractMatrixOptions::staticMetaObject, Place::Properties, grid},
-        {&MatrixPopButtons::staticMetaObject, Place::Properties, grid},
+        {&AbstractOptions::staticMetaObject, Count::LongestList,
+            {textField, iconField, toolTipField, dataField}},
+        {&CheckableTextComboBox::staticMetaObject, Count::LongestList,
+            {{"itemTextList", "text", Field::Text}, toolTipField}},
+        {&ComboBox::staticMetaObject, Count::Items, {actionField}},
+        {&AbstractMatrixOptions::staticMetaObject, Count::Grid, grid},
+        {&MatrixPopButtons::staticMetaObject, Count::Grid, grid},
     };
     return all;
 }
@@ -69,7 +75,7 @@ const Binding *bindingOf(const QWidget *widget)
     return nullptr;
 }
 
-const DomProperty *find(const QList<DomProperty *> &properties, const char *name)
+DomProperty *find(const QList<DomProperty *> &properties, const char *name)
 {
     const auto named = [name](const DomProperty *property) {
         return property && property->attributeName() == QLatin1String(name);
@@ -84,18 +90,6 @@ QStringList listOf(const QWidget *widget, const Field &field)
 }
 
 // --- Saving ---
-
-DomProperty *makeItemProperty(const Field &field, const QString &value)
-{
-    auto *string = new DomString;
-    if (!field.translated)
-        string->setAttributeNotr(QStringLiteral("true"));
-    string->setText(value);
-    auto *property = new DomProperty;
-    property->setAttributeName(QLatin1String(field.inItem));
-    property->setElementString(string);
-    return property;
-}
 
 /// Puts a property where the form editor would write it: declared ones in the order of the meta-object, then
 /// the others.
@@ -112,17 +106,64 @@ void insertProperty(DomWidget *node, const QWidget *widget, DomProperty *propert
     node->setElementProperty(properties);
 }
 
-void saveAsProperty(DomWidget *node, const QWidget *widget, const Field &field)
+bool isBlank(const QStringList &list)
 {
-    const QStringList list = listOf(widget, field);
-    if (list.isEmpty() || find(node->elementProperty(), field.list))
+    return std::all_of(list.cbegin(), list.cend(), [](const QString &string) { return string.isEmpty(); });
+}
+
+/// Whether \a list says something that is not known without it: a blank one only how many entries there are.
+bool isWorthSaving(const QStringList &list, const QWidget *widget, const Binding &binding)
+{
+    if (!isBlank(list))
+        return true;
+    return binding.count == Count::LongestList
+        && std::none_of(binding.fields.cbegin(), binding.fields.cend(), [&](const Field &other) {
+               const QStringList texts = listOf(widget, other);
+               return texts.size() >= list.size() && !isBlank(texts);
+           });
+}
+
+/// The form editor saves no item that has neither a text nor an icon of its own; when the form is loaded, the
+/// actions of the others have moved up with them.
+QStringList actionsOfSavedItems(const QComboBox *comboBox)
+{
+    const QStringList actions = listOf(comboBox, actionField);
+    QStringList saved;
+    for (int i = 0; i < actions.size(); ++i) {
+        if (i >= comboBox->count() || comboBox->itemData(i, Qt::DisplayPropertyRole).isValid()
+            || comboBox->itemData(i, Qt::DecorationPropertyRole).isValid())
+            saved.append(actions.at(i));
+    }
+    return saved;
+}
+
+/// A list as uic, QUiLoader and lupdate read it. One that the form editor has written is completed.
+void saveList(DomWidget *node, const QWidget *widget, const Binding &binding, const Field &field)
+{
+    DomProperty *property = find(node->elementProperty(), field.list);
+    if (!property) {
+        const QStringList list = binding.count == Count::Items
+            ? actionsOfSavedItems(static_cast<const QComboBox *>(widget))
+            : listOf(widget, field);
+        if (list.isEmpty() || !isWorthSaving(list, widget, binding))
+            return;
+        auto *strings = new DomStringList;
+        strings->setElementString(list);
+        property = new DomProperty;
+        property->setAttributeName(QLatin1String(field.list));
+        property->setElementStringList(strings);
+        insertProperty(node, widget, property);
+    }
+    DomStringList *strings = property->elementStringList();
+    if (field.kind == Field::Text || !strings)
         return;
-    auto *strings = new DomStringList;
-    strings->setElementString(list);
-    auto *property = new DomProperty;
-    property->setAttributeName(QLatin1String(field.list));
-    property->setElementStringList(strings);
-    insertProperty(node, widget, property);
+    strings->setAttributeNotr(QStringLiteral("true"));
+    if (field.kind != Field::IconPaths)
+        return;
+    QStringList paths = strings->elementString();
+    for (QString &path : paths)
+        path = relativeIconPath(path, widget);
+    strings->setElementString(paths);
 }
 
 void saveGridSide(DomWidget *node, const QWidget *widget, const char *side)
@@ -134,64 +175,6 @@ void saveGridSide(DomWidget *node, const QWidget *widget, const char *side)
     property->setAttributeName(QLatin1String(side));
     property->setElementUInt(value);
     insertProperty(node, widget, property);
-}
-
-void saveInItems(DomWidget *node, const QWidget *widget, const QVector<Field> &fields)
-{
-    QVector<DomItem *> items = node->elementItem();
-    for (const Field &field : fields) {
-        if (find(node->elementProperty(), field.list))
-            continue;
-        const QStringList list = listOf(widget, field);
-        while (items.size() < list.size())
-            items.append(new DomItem);
-        for (int i = 0; i < list.size(); ++i) {
-            QList<DomProperty *> properties = items.at(i)->elementProperty();
-            if (find(properties, field.inItem))
-                continue;
-            properties.append(makeItemProperty(field, list.at(i)));
-            items.at(i)->setElementProperty(properties);
-        }
-    }
-    node->setElementItem(items);
-}
-
-/// The form editor writes no element for an item that has neither a text nor an icon of its own, so the
-/// elements are not simply the items. Empty when it cannot be told which is which.
-QVector<int> writtenItems(const QComboBox *comboBox, int elements)
-{
-    QVector<int> all;
-    QVector<int> written;
-    for (int i = 0; i < comboBox->count(); ++i) {
-        all.append(i);
-        if (comboBox->itemData(i, Qt::DisplayPropertyRole).isValid()
-            || comboBox->itemData(i, Qt::DecorationPropertyRole).isValid())
-            written.append(i);
-    }
-    if (all.size() == elements)
-        return all;
-    return written.size() == elements ? written : QVector<int>();
-}
-
-void saveActions(DomWidget *node, const QComboBox *comboBox)
-{
-    const QStringList actions = listOf(comboBox, actionField);
-    if (actions.isEmpty() || find(node->elementProperty(), actionField.list))
-        return;
-    const QVector<DomItem *> elements = node->elementItem();
-    const QVector<int> items = writtenItems(comboBox, elements.size());
-    // Elements of their own would be read back as further items.
-    if (items.isEmpty() || actions.size() > comboBox->count()) {
-        saveAsProperty(node, comboBox, actionField);
-        return;
-    }
-    for (int i = 0; i < items.size(); ++i) {
-        QList<DomProperty *> properties = elements.at(i)->elementProperty();
-        if (items.at(i) >= actions.size() || find(properties, actionField.inItem))
-            continue;
-        properties.append(makeItemProperty(actionField, actions.at(items.at(i))));
-        elements.at(i)->setElementProperty(properties);
-    }
 }
 
 // --- Loading ---
@@ -238,14 +221,20 @@ void load(const DomWidget *node, QWidget *widget, const Binding &binding)
             if (property->kind() != DomProperty::StringList || !property->elementStringList())
                 continue;
             list = property->elementStringList()->elementString();
-        } else if (binding.place != Place::Properties) {
+        } else if (binding.count != Count::Grid) {
             list = listFromItems(node->elementItem(), field);
+        }
+        if (field.kind == Field::IconPaths) {
+            for (QString &path : list)
+                path = absoluteIconPath(path, widget);
         }
         if (!list.isEmpty() && list != listOf(widget, field))
             widget->setProperty(field.list, list);
     }
-    if (binding.place != Place::Properties)
-        return;
+}
+
+void loadGridSides(const DomWidget *node, QWidget *widget)
+{
     for (const char *side : gridSides) {
         const DomProperty *property = find(node->elementProperty(), side);
         if (property && property->kind() == DomProperty::UInt)
@@ -255,6 +244,19 @@ void load(const DomWidget *node, QWidget *widget, const Binding &binding)
     }
 }
 
+KeptItems::EntryAt entriesOf(const QWidget *widget, const Binding &binding)
+{
+    QVector<QStringList> lists;
+    for (const Field &field : binding.fields)
+        lists.append(listOf(widget, field));
+    return [lists](int index) {
+        QStringList entry;
+        for (const QStringList &list : lists)
+            entry.append(list.value(index));
+        return entry;
+    };
+}
+
 } // namespace
 
 void FormBuilder::saveExtraInfo(DomWidget *ui_widget, QWidget *widget, void *)
@@ -262,27 +264,30 @@ void FormBuilder::saveExtraInfo(DomWidget *ui_widget, QWidget *widget, void *)
     const Binding *binding = ui_widget && widget ? bindingOf(widget) : nullptr;
     if (!binding)
         return;
-    switch (binding->place) {
-    case Place::Items:
-        saveInItems(ui_widget, widget, binding->fields);
-        break;
-    case Place::ItemsOfComboBox:
-        saveActions(ui_widget, static_cast<QComboBox *>(widget));
-        break;
-    case Place::Properties:
-        for (const Field &field : binding->fields)
-            saveAsProperty(ui_widget, widget, field);
+    for (const Field &field : binding->fields)
+        saveList(ui_widget, widget, *binding, field);
+    if (binding->count == Count::LongestList)
+        KeptItems::save(ui_widget, widget, entriesOf(widget, *binding));
+    if (binding->count == Count::Grid) {
         for (const char *side : gridSides)
             saveGridSide(ui_widget, widget, side);
-        break;
     }
 }
 
 void FormBuilder::loadExtraInfo(DomWidget *ui_widget, QWidget *widget, void *)
 {
     const Binding *binding = ui_widget && widget ? bindingOf(widget) : nullptr;
-    if (binding)
-        load(ui_widget, widget, *binding);
+    if (!binding)
+        return;
+    load(ui_widget, widget, *binding);
+    if (binding->count == Count::LongestList) {
+        QVector<KeptItems::Value> values;
+        for (const Field &field : binding->fields)
+            values.append({field.inItem, field.kind == Field::Text});
+        KeptItems::load(*ui_widget, widget, values, entriesOf(widget, *binding));
+    }
+    if (binding->count == Count::Grid)
+        loadGridSides(ui_widget, widget);
 }
 
 } // namespace Vexa

@@ -2,6 +2,8 @@
 
 #include "icons.h"
 
+#include <QtWidgets/QWidget>
+
 #include <algorithm>
 
 namespace Vexa {
@@ -49,7 +51,7 @@ QVariant ItemListModel::data(const QModelIndex &index, int role) const
     // A missing icon is not remembered: the resources of a form may arrive after its controls.
     auto icon = m_icons.find(path);
     if (icon == m_icons.end() || icon->isNull())
-        icon = m_icons.insert(path, iconFromPath(path));
+        icon = m_icons.insert(path, iconFromPath(path, qobject_cast<QWidget *>(QObject::parent())));
     return icon->isNull() ? QVariant() : QVariant(*icon);
 }
 

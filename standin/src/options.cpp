@@ -152,7 +152,7 @@ void OptionCheckBox::showCurrentIndex()
     m_checkBox->setChecked(currentIndex() == 0);
     m_checkBox->setText(textList().value(currentIndex()));
     m_checkBox->setToolTip(toolTips().value(currentIndex()));
-    m_checkBox->setIcon(iconFromPath(iconList().value(currentIndex())));
+    m_checkBox->setIcon(iconFromPath(iconList().value(currentIndex()), this));
 }
 
 } // namespace Vexa

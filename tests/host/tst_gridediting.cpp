@@ -153,7 +153,7 @@ private slots:
         FormWindow *form = newForm();
         QWidget *matrix = drop(form, kind, 2, 2, "a,b,,");
         for (const char *list : {"iconList", "toolTips", "actionList"})
-            matrix->setProperty(list, QStringLiteral("i,,,").split(QLatin1Char(',')));
+            matrix->setProperty(list, QStringLiteral(":/i,,,").split(QLatin1Char(',')));
         QUndoStack *history = form->commandHistory();
         history->setClean();
         const State before(form, matrix, dump);
@@ -175,7 +175,7 @@ private slots:
         }));
 
         QCOMPARE(dump(matrix),
-            QStringLiteral("3x2 a,in place,,,\u05e9 \"1\",|i,,,,%1,|i,,,,tip,|i,,,,go,").arg(image));
+            QStringLiteral("3x2 a,in place,,,\u05e9 \"1\",|:/i,,,,%1,|:/i,,,,tip,|:/i,,,,go,").arg(image));
         QCOMPARE(history->count(), before.index + (kind.sizeByProperties ? 3 : 1));
         QCOMPARE(history->text(before.index), QLatin1String(kind.undoText));
         if (kind.sizeByProperties) {
