@@ -1,5 +1,6 @@
 // The command-line companion, as a process: what it says of good, bad and hostile forms.
 
+#include "sorrelformprocess.h"
 #include "testdata.h"
 
 #include <QtCore/QDir>
@@ -7,55 +8,11 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
-
-struct Result {
-    int exitCode = -1;
-    QByteArray output;
-    QByteArray errors;
-};
-
-/// The program, which may write this many bytes into a file: the next write stops short, the one after it
-/// fails, as on a full disk.
-class Process : public QProcess {
-public:
-    explicit Process(rlim_t greatestFile)
-        : m_greatestFile(greatestFile)
-    {
-    }
-
-protected:
-    void setupChildProcess() override
-    {
-        const rlimit limit{m_greatestFile, m_greatestFile};
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-
-private:
-    const rlim_t m_greatestFile;
-};
-
-Result run(
-    const QStringList &arguments, const QString &folder = QString(), rlim_t greatestFile = RLIM_INFINITY)
-{
-    Process process(greatestFile);
-    process.setWorkingDirectory(folder);
-    process.start(QStringLiteral(SORREL_FORM), arguments);
-    Result result;
-    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
-        result.exitCode = process.exitCode();
-    result.output = process.readAllStandardOutput();
-    result.errors = process.readAllStandardError();
-    return result;
-}
 
 /// A form of one QWidget named "Form" with this inside.
 QByteArray form(const QByteArray &contents, const QByteArray &afterwards = QByteArray())
@@ -70,6 +27,18 @@ QByteArray containing(const char *className, const QByteArray &inside)
     return QByteArray("<widget class=\"") + className + "\" name=\"n\">" + inside + "</widget>";
 }
 QByteArray empty(const char *className) { return containing(className, QByteArray()); }
+
+QByteArray string(const char *property, const char *value)
+{
+    return QByteArray("<property name=\"") + property + "\"><string>" + value + "</string></property>";
+}
+/// An item as forms had it before there were list properties.
+QByteArray item(const QByteArray &properties) { return "<item>" + properties + "</item>"; }
+QByteArray stringList(const char *property, const QByteArray &string)
+{
+    return QByteArray("<property name=\"") + property + "\"><stringlist><string>" + string
+        + "</string></stringlist></property>";
+}
 
 /// What a form says of a class that Designer does not have.
 QByteArray declared(const char *className, const char *base)
@@ -123,9 +92,6 @@ private slots:
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("kinds");
-        const auto add = [](const char *name, const QByteArray &text, const char *kinds) {
-            QTest::newRow(name) << text << words(kinds);
-        };
         add("empty file", "", "error");
         add("other XML", "<html><body/></html>", "error");
         add("cut off", form("<widget class=\"QPushButton\" name=\"b\">").left(90), "error");
@@ -155,6 +121,35 @@ private slots:
         // In Designer itself this is a question, which nobody is there to answer.
         add("absent resource file",
             form(QByteArray(), "<resources><include location=\"absent.qrc\"/></resources>"), "warning");
+        const auto addControl
+            = [](const char *name, const char *control, const QByteArray &inside, const char *kinds) {
+                  add(name, form(containing(control, inside)), kinds);
+              };
+        const QByteArray text = string("text", "a");
+        addControl("items of options", "Vexa::OptionRadios", item(text), "uncompiled");
+        addControl("items without a text", "Vexa::OptionRadios", item(string("text", "")), "");
+        addControl(
+            "items beside their list", "Vexa::OptionRadios", stringList("textList", "a") + item(text), "");
+        addControl("items beside another list", "Vexa::CheckableTextComboBox",
+            stringList("itemTextList", "a") + item(string("toolTip", "a")), "uncompiled");
+        addControl("items of a combo box", "Vexa::ComboBox", item(text), "");
+        addControl(
+            "actions of a combo box", "Vexa::ComboBox", item(text + string("action", "a")), "uncompiled");
+        addControl("what no item has", "Vexa::ComboBox", item(text + string("data", "a")), "uncompiled lost");
+        addControl("items of a list", "Vexa::ListWidget", item(text + string("toolTip", "a")), "");
+        addControl(
+            "icon by file", "Vexa::OptionRadios", stringList("iconList", "/opt/a.png"), "absolute-path");
+        addControl("icon by resource", "Vexa::OptionRadios", stringList("iconList", ":/a.png"), "");
+        addControl("icon beside the form", "Vexa::OptionRadios", stringList("iconList", "icons/a.png"), "");
+        addControl("no icon", "Vexa::OptionRadios", stringList("textList", "/opt/a.png"), "");
+        addControl("icon of another system", "Vexa::OptionRadios", stringList("iconList", "C:/a.png"),
+            "absolute-path");
+        addControl("icon of Qt's", "QPushButton",
+            "<property "
+            "name=\"icon\"><iconset><normaloff>/opt/a.png</normaloff>/opt/a.png</iconset></property>",
+            "absolute-path");
+        addControl("pixmap of Qt's", "QLabel",
+            "<property name=\"pixmap\"><pixmap>/opt/a.png</pixmap></property>", "absolute-path");
         add("more rows than fit",
             form(containing(
                 "Vexa::MatrixPushButtons", "<property name=\"row\"><UInt>4294967295</UInt></property>")),
@@ -272,6 +267,18 @@ private slots:
         QCOMPARE(read(fileName), bad);
     }
 
+    void normalizingMendsContents()
+    {
+        for (const char *name : {"uncompiled.ui", "absolutepath.ui"}) {
+            const QString fileName = write(read(QStringLiteral(EXAMPLES "/broken/") + QLatin1String(name)));
+            for (const char *steps : {"check 1", "normalize 0", "check 0"}) {
+                const Result result = run({words(steps).first(), fileName});
+                QVERIFY2(result.exitCode == words(steps).last().toInt(), name + result.output);
+            }
+            QVERIFY(read(fileName).contains("left"));
+        }
+    }
+
     void fullDisksLeaveFilesAsTheyWere_data()
     {
         QTest::addColumn<QString>("file");
@@ -326,6 +333,10 @@ private slots:
     }
 
 private:
+    static void add(const char *name, const QByteArray &text, const char *kinds)
+    {
+        QTest::newRow(name) << text << words(kinds);
+    }
     static QStringList exampleForms()
     {
         const QDir folder(QStringLiteral(EXAMPLES "/forms"));

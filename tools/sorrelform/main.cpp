@@ -36,7 +36,8 @@ const char description[]
       "Needs no display.\n"
       "\n"
       "  check FORM.ui ...        says what is wrong: what Designer warns about, unknown classes\n"
-      "                           and properties, what saving loses, unstable saving\n"
+      "                           and properties, what saving loses, unstable saving,\n"
+      "                           what compiled programs would not get\n"
       "  render FORM.ui OUT.png   writes Designer's preview of the form as a picture\n"
       "  normalize FORM.ui ...    opens and saves; a form that would lose something is left alone\n"
       "\n"
@@ -147,13 +148,18 @@ int normalize(DesignerHost *host, const QStringList &files)
             result = ExitCode(fail(QStringLiteral("%1: %2").arg(files.at(i), error)));
             continue;
         }
-        const FormReport report = checker.check(text, files.at(i));
+        FormReport report = checker.check(text, files.at(i));
+        if (report.isMended() && !report.normalized) {
+            if (!writeFile(files.at(i), report.saved.toUtf8(), &error)) {
+                result = ExitCode(fail(QStringLiteral("%1: %2").arg(files.at(i), error)));
+                continue;
+            }
+            if (!report.isGood())
+                report = checker.check(report.saved, files.at(i));
+        }
         if (!report.isGood()) {
             print(files.at(i), report);
             result = qMax(result, HasFindings);
-        } else if (!report.normalized) {
-            if (!writeFile(files.at(i), report.saved.toUtf8(), &error))
-                result = ExitCode(fail(QStringLiteral("%1: %2").arg(files.at(i), error)));
         }
     }
     return result;
