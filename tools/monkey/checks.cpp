@@ -1,5 +1,5 @@
 #include "contents.h"
-#include "dialoghand.h"
+#include "dialogs.h"
 #include "formtext.h"
 #include "monkey.h"
 
@@ -33,7 +33,11 @@ void Monkey::checkStep(int indexBefore, int countBefore, bool walked)
         // Everything above is a new future.
         while (!m_texts.isEmpty() && m_texts.lastKey() > indexBefore)
             m_texts.erase(std::prev(m_texts.end()));
+        while (!m_edits.isEmpty() && m_edits.lastKey() >= indexBefore)
+            m_edits.erase(std::prev(m_edits.end()));
     }
+    if (m_newEdit)
+        m_edits.insert(indexBefore, *m_newEdit);
     const auto known = m_texts.constFind(index);
     if (known == m_texts.constEnd())
         m_texts.insert(index, now);
@@ -48,7 +52,6 @@ void Monkey::checkHistory(Random &)
     m_walked = true;
     const int top = history()->index();
     const auto look = [this](const char *direction) {
-        settle();
         const auto known = m_texts.constFind(history()->index());
         const QString now = text();
         if (known == m_texts.constEnd())
@@ -60,11 +63,11 @@ void Monkey::checkHistory(Random &)
                         .arg(history()->text(history()->index()), firstDifference(*known, now)));
     };
     while (history()->canUndo() && m_finding.isEmpty()) {
-        history()->undo();
+        undo();
         look("undo");
     }
     while (history()->index() < top && m_finding.isEmpty()) {
-        history()->redo();
+        redo();
         look("redo");
     }
     if (m_finding.isEmpty())

@@ -1,6 +1,6 @@
 #include "monkey.h"
 
-#include "dialoghand.h"
+#include "dialogs.h"
 
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerFormWindowCursorInterface>
@@ -16,6 +16,7 @@
 Monkey::Monkey(bool withoutControls)
     : m_withoutControls(withoutControls)
     , m_host({QStringLiteral(PLUGIN_ROOT)})
+    , m_choosers(m_host.core(), m_folder.filePath(QStringLiteral("icon.png")))
 {
     QImage image(16, 16, QImage::Format_RGB32);
     image.fill(Qt::red);
@@ -48,9 +49,10 @@ const QVector<Monkey::Row> &Monkey::rows()
         {"layOut", 6, &Monkey::layOut},
         {"usePages", 7, &Monkey::usePages},
         {"showPage", 5, &Monkey::showPage},
-        {"editContents", 14, &Monkey::editContents},
+        {"editContents", 18, &Monkey::editContents},
         {"editAndLose", 1, &Monkey::editAndLose},
-        {"changeProperty", 12, &Monkey::changeProperty},
+        {"changeProperty", 8, &Monkey::changeProperty},
+        {"editLists", 8, &Monkey::editLists},
         {"moveByKeys", 3, &Monkey::moveByKeys},
         {"doubleClick", 3, &Monkey::doubleClick},
         {"switchResources", 2, &Monkey::switchResources},
@@ -101,6 +103,7 @@ QString Monkey::perform(const Step &step)
     const int countBefore = history()->count();
     const QPointer<FormWindow> formBefore = m_form;
     m_walked = false;
+    m_newEdit.reset();
     (this->*row->action)(random);
     settle();
     if (m_finding.isEmpty() && m_form == formBefore)
@@ -155,6 +158,7 @@ Monkey::FormWindow *Monkey::newForm()
 void Monkey::forgetHistory()
 {
     m_texts.clear();
+    m_edits.clear();
     settle();
     m_texts.insert(history()->index(), text());
 }

@@ -14,6 +14,8 @@
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTableWidget>
 
+#include <algorithm>
+
 namespace {
 
 bool isGrid(const QWidget *control)
@@ -57,14 +59,11 @@ QStringList textsOfGrid(const QWidget *grid)
 
 } // namespace
 
-bool hasContents(const QWidget *widget)
+int contentsClass(const QWidget *widget)
 {
-    return qobject_cast<const Vexa::ComboBox *>(widget)
-        || qobject_cast<const Vexa::CheckableTextComboBox *>(widget)
-        || qobject_cast<const Vexa::OptionComboBox *>(widget)
-        || qobject_cast<const Vexa::OptionButtons *>(widget)
-        || qobject_cast<const Vexa::OptionRadios *>(widget)
-        || qobject_cast<const Vexa::DrawbackBoxGroup *>(widget) || isGrid(widget);
+    const auto found = std::find_if(contentsClasses.cbegin(), contentsClasses.cend(),
+        [widget](const char *name) { return widget->inherits(name); });
+    return found == contentsClasses.cend() ? -1 : int(found - contentsClasses.cbegin());
 }
 
 QStringList textsOf(QWidget *control)

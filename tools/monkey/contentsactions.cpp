@@ -1,0 +1,108 @@
+#include "contents.h"
+#include "dialoghand.h"
+#include "dialogs.h"
+#include "monkey.h"
+
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerTaskMenuExtension>
+#include <QtDesigner/QExtensionManager>
+
+#include <private/formwindowbase_p.h>
+
+#include <QtCore/QBuffer>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QUndoStack>
+
+QList<QWidget *> Monkey::contentsControls() const
+{
+    QList<QWidget *> controls;
+    const auto all = widgets();
+    for (QWidget *widget : all) {
+        if (hasContents(widget))
+            controls += widget;
+    }
+    return controls;
+}
+
+void Monkey::editContents(Random &random)
+{
+    const QList<QWidget *> controls = contentsControls();
+    if (controls.isEmpty())
+        return;
+    const QPointer<QWidget> control = random.pick(controls);
+    DesignerHost::select(m_form, control);
+    settle();
+    auto *menu = qt_extension<QDesignerTaskMenuExtension *>(m_host.core()->extensionManager(), control);
+    if (!menu || !menu->preferredEditAction())
+        return finding(QStringLiteral("no task menu for ") + control->objectName());
+    EditCounts &counts = m_tally.of(control);
+    const QStringList textsBefore = textsOf(control);
+    const FormState before = state();
+    const int indexBefore = history()->index();
+    QStringList accepted;
+    bool ok = false;
+    int opened = 0;
+    withDialogs([menu] { menu->preferredEditAction()->trigger(); },
+        [&](QDialog *dialog) {
+            if (++opened > 1)
+                return;
+            if (textsIn(dialog) != textsBefore)
+                finding(QStringLiteral("the dialog of %1 shows '%2' for '%3'")
+                            .arg(control->objectName(), textsIn(dialog).join(QLatin1Char('|')),
+                                textsBefore.join(QLatin1Char('|'))));
+            DialogHand hand(random, m_choosers);
+            hand.use(dialog, random.below(10));
+            counts.choosers += hand.chooserCounts();
+            ok = !random.oneIn(4);
+            accepted = textsIn(dialog);
+            if (!closeDialog(dialog, ok))
+                finding(QStringLiteral("the dialog of %1 does not close").arg(control->objectName()));
+        });
+    ++m_done["editContents"];
+    if (!opened)
+        return finding(QStringLiteral("no dialog opens for ") + control->objectName());
+    ++counts.opened;
+    counts.cancelled += !ok;
+    if (!ok && (history()->index() != indexBefore || state().saved != before.saved))
+        return finding(QStringLiteral("a cancelled dialog changed ") + control->objectName());
+    if (!ok)
+        return;
+    checkAccepted(control, accepted);
+    if (history()->index() == indexBefore)
+        return;
+    ++counts.changed;
+    checkEdit(control, before, indexBefore);
+}
+
+void Monkey::editAndLose(Random &random)
+{
+    const QList<QWidget *> controls = contentsControls();
+    if (controls.isEmpty())
+        return;
+    const QPointer<QWidget> control = random.pick(controls);
+    auto *menu = qt_extension<QDesignerTaskMenuExtension *>(m_host.core()->extensionManager(), control);
+    if (!menu)
+        return;
+    const int way = random.below(3);
+    withDialogs([menu] { menu->preferredEditAction()->trigger(); },
+        [&](QDialog *dialog) {
+            DialogHand(random, m_choosers).use(dialog, 2);
+            if (way == 0) {
+                m_host.closeForm(m_form);
+            } else if (way == 1) {
+                QBuffer device;
+                QByteArray xml = DesignerHost::save(m_form).toUtf8();
+                device.setBuffer(&xml);
+                device.open(QIODevice::ReadOnly);
+                m_form->setContents(&device);
+            } else {
+                delete control.data();
+            }
+            if (QDialog *open = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+                open->accept();
+        });
+    ++m_done["editAndLose"];
+    openFresh();
+}
