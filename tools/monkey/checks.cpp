@@ -7,6 +7,7 @@
 
 #include <QtDesigner/QDesignerContainerExtension>
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerMetaDataBaseInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QExtensionManager>
@@ -85,6 +86,8 @@ void Monkey::checkReload()
     settle();
     compareSaved(saved, DesignerHost::save(second));
     m_host.closeForm(second);
+    // Without an active form most actions are disabled.
+    m_host.core()->formWindowManager()->setActiveFormWindow(m_form);
 }
 
 void Monkey::compareSaved(const QString &saved, const QString &again)
@@ -98,10 +101,8 @@ void Monkey::checkControls()
 {
     if (!m_form || !m_form->mainContainer())
         return;
-    const auto all = m_form->mainContainer()->findChildren<QWidget *>();
-    for (QWidget *widget : all) {
-        if (!hasContents(widget) || !m_form->isManaged(widget))
-            continue;
+    const QList<QWidget *> controls = contentsControls();
+    for (QWidget *widget : controls) {
         const QDesignerPropertySheetExtension *sheet = m_host.propertySheet(widget);
         const QStringList names = contentsProperties(widget);
         for (const QString &name : names) {

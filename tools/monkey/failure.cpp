@@ -11,21 +11,29 @@ namespace {
 
 constexpr int mostShrinkingRuns = 60;
 
-bool fails(const Steps &steps, const QString &path, ChildResult *result = nullptr)
+/// Makes these steps, which stay in the file.
+ChildResult replay(const Steps &steps, const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(toText(steps));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(toText(steps));
     file.close();
-    const ChildResult ran = runSteps({QStringLiteral("--replay"), path});
-    if (result)
-        *result = ran;
-    return !ran.ok;
+    return runSteps({QStringLiteral("--replay"), path});
 }
 
-/// Takes out ever smaller parts for as long as what is left still fails.
-Steps shrink(Steps steps, const QString &path)
+/// What failed, without the names and numbers that differ from widget to widget; empty where nothing did.
+QString kindOf(const ChildResult &result)
+{
+    if (result.ok)
+        return {};
+    static const QRegularExpression details(
+        QStringLiteral("'[^']*'|\\([^)]*\\)|(line|step|row) \\d+|_\\d+|[\\w:]*0x\\w+|\\b(Q|Vexa::)\\w+"));
+    static const QRegularExpression finding(QStringLiteral("FINDING: .*"));
+    return result.end + finding.match(result.output).captured().remove(details).simplified();
+}
+
+/// Takes out ever smaller parts for as long as what is left fails in the same way.
+Steps shrink(Steps steps, const QString &kind, const QString &path)
 {
     int runs = 0;
     for (int part = steps.size() / 2; part >= 1; part /= 2) {
@@ -33,7 +41,7 @@ Steps shrink(Steps steps, const QString &path)
             Steps fewer = steps;
             fewer.remove(from, qMin(part, fewer.size() - from));
             ++runs;
-            if (!fewer.isEmpty() && fails(fewer, path))
+            if (!fewer.isEmpty() && kindOf(replay(fewer, path)) == kind)
                 steps = fewer;
             else
                 from += part;
@@ -42,18 +50,11 @@ Steps shrink(Steps steps, const QString &path)
     return steps;
 }
 
-/// How the steps of a file end, without the names and numbers that differ from widget to widget; empty where
-/// they pass.
+/// How the steps of a file end, and where; empty where they pass.
 QString ending(const QString &path, bool plain)
 {
     const ChildResult result = runSteps({QStringLiteral("--replay"), path}, plain);
-    if (result.ok)
-        return {};
-    static const QRegularExpression details(
-        QStringLiteral("'[^']*'|\\([^)]*\\)|(line|step|row) \\d+|[\\w:]*0x\\w+|\\b(Q|Vexa::)\\w+"));
-    static const QRegularExpression finding(QStringLiteral("FINDING: .*"));
-    return result.progress.simplified() + result.end
-        + finding.match(result.output).captured().remove(details).simplified();
+    return result.ok ? QString() : result.progress.simplified() + kindOf(result);
 }
 
 /// Whether Designer with widgets of its own alone ends in the same way at the same step.
@@ -91,22 +92,21 @@ bool report(const Failure &failure, bool quick)
         return false;
     };
     const Steps steps = episode(seed, number).mid(0, step + 1);
-    const bool alone = fails(steps, path);
-    if (alone && isDesignersOwn(path))
-        return dismiss();
-    const Steps fewest = alone && !quick ? shrink(steps, path) : steps;
-    ChildResult last = result;
-    if (alone) {
-        fails(fewest, path, &last);
-        if (isDesignersOwn(path))
-            return dismiss();
-    }
-    say(QStringLiteral("FAILED: %1: %2\n%3").arg(title, last.end, last.output));
-    if (alone)
-        say(QStringLiteral("%1 steps still fail; replay them with --replay %2\n%3")
-                .arg(fewest.size())
-                .arg(path, QString::fromUtf8(toText(fewest))));
-    else
+    const QString kind = kindOf(replay(steps, path));
+    if (kind.isEmpty()) {
+        say(QStringLiteral("FAILED: %1: %2\n%3").arg(title, result.end, result.output));
         say(QStringLiteral("The steps of this form alone do not fail; only the whole run does."));
+        return true;
+    }
+    if (isDesignersOwn(path))
+        return dismiss();
+    const Steps fewest = quick ? steps : shrink(steps, kind, path);
+    const ChildResult last = replay(fewest, path);
+    if (isDesignersOwn(path))
+        return dismiss();
+    say(QStringLiteral("FAILED: %1: %2\n%3").arg(title, last.end, last.output));
+    say(QStringLiteral("%1 steps still fail; replay them with --replay %2\n%3")
+            .arg(fewest.size())
+            .arg(path, QString::fromUtf8(toText(fewest))));
     return true;
 }

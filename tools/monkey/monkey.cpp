@@ -5,6 +5,7 @@
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerMetaDataBaseInterface>
 
 #include <private/formwindowbase_p.h>
 
@@ -170,10 +171,22 @@ QList<QWidget *> Monkey::widgets() const
     QList<QWidget *> all;
     const auto children = m_form->mainContainer()->findChildren<QWidget *>();
     for (QWidget *child : children) {
-        if (m_form->isManaged(child))
+        if (m_form->isManaged(child) && isOnForm(child))
             all += child;
     }
     return all;
+}
+
+bool Monkey::isOnForm(const QWidget *widget) const
+{
+    // Where a drop is undone, the form forgets what was dropped and leaves it hidden, with all that it brought
+    // along still managed.
+    for (; widget && widget != m_form->mainContainer(); widget = widget->parentWidget()) {
+        if (widget->property("_q_formEditorObject").isValid()
+            && !m_host.core()->metaDataBase()->item(const_cast<QWidget *>(widget)))
+            return false;
+    }
+    return widget;
 }
 
 QWidget *Monkey::anyWidget(Random &random) const

@@ -90,6 +90,7 @@ private:
     void forgetHistory();
 
     QList<QWidget *> widgets() const;
+    bool isOnForm(const QWidget *widget) const;
     QWidget *anyWidget(Random &random) const;
     QList<QWidget *> contentsControls() const;
     QUndoStack *history() const;
