@@ -13,14 +13,24 @@
 
 #include <QtWidgets/QUndoStack>
 
-Monkey::FormState Monkey::state() const { return {DesignerHost::save(m_form), pages()}; }
+Monkey::FormState Monkey::state(const QSize &windowSize) const
+{
+    // A window grows with the layouts in it, at some time, and never shrinks with them.
+    m_form->window()->resize(windowSize + QSize(1, 1));
+    settle();
+    m_form->window()->resize(windowSize);
+    settle();
+    return {windowSize, DesignerHost::save(m_form), pages()};
+}
 
 QString Monkey::pages() const
 {
     QString text;
-    const auto groups = m_form->mainContainer()->findChildren<Vexa::DrawbackBoxGroup *>();
-    for (const Vexa::DrawbackBoxGroup *group : groups)
-        text += QStringLiteral("page %1 of %2\n").arg(group->currentIndex()).arg(group->objectName());
+    const QList<QWidget *> controls = contentsControls();
+    for (const QWidget *control : controls) {
+        if (const auto *group = qobject_cast<const Vexa::DrawbackBoxGroup *>(control))
+            text += QStringLiteral("page %1 of %2\n").arg(group->currentIndex()).arg(group->objectName());
+    }
     return text;
 }
 
@@ -47,7 +57,7 @@ void Monkey::checkEdit(QWidget *control, const FormState &before, int indexBefor
                            .arg(control->objectName())
                            .arg(history()->index() - indexBefore));
     checkPropertyEditor(control, QStringLiteral("after the edit"));
-    const FormState after = state();
+    const FormState after = state(before.windowSize);
     history()->undo();
     settle();
     checkState(before, QStringLiteral("undo of the edit of ") + control->objectName());
@@ -61,7 +71,7 @@ void Monkey::checkEdit(QWidget *control, const FormState &before, int indexBefor
 
 void Monkey::checkState(const FormState &expected, const QString &what)
 {
-    const FormState now = state();
+    const FormState now = state(expected.windowSize);
     if (now.saved != expected.saved)
         finding(
             QStringLiteral("%1 gives other bytes: %2").arg(what, firstDifference(expected.saved, now.saved)));
@@ -72,7 +82,7 @@ void Monkey::checkState(const FormState &expected, const QString &what)
 
 void Monkey::checkPropertyEditor(QWidget *control, const QString &when)
 {
-    const QDesignerPropertyEditorInterface *editor = m_host.core()->propertyEditor();
+    QDesignerPropertyEditorInterface *editor = m_host.core()->propertyEditor();
     if (editor->object() != control)
         return finding(QStringLiteral("the property editor shows '%1' in the place of %2 %3")
                            .arg(editor->object() ? editor->object()->objectName() : QString(),
@@ -84,9 +94,15 @@ void Monkey::checkPropertyEditor(QWidget *control, const QString &when)
         const QString expected = value.type() == QVariant::StringList
             ? value.toStringList().join(QLatin1String("; "))
             : value.toString();
-        if (rows.value(name) != expected)
-            finding(QStringLiteral("the property editor shows '%1' for %2 of %3, which is '%4', %5")
-                        .arg(rows.value(name), name, control->objectName(), expected, when));
+        if (rows.value(name) == expected)
+            continue;
+        // The form editor prints some values with what it knows of a row that is gone. What it would show of
+        // the control now counts.
+        editor->setObject(control);
+        if (propertyEditorRows(editor).value(name) == rows.value(name))
+            continue;
+        finding(QStringLiteral("the property editor shows '%1' for %2 of %3, which is '%4', %5")
+                    .arg(rows.value(name), name, control->objectName(), expected, when));
     }
 }
 

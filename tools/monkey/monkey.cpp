@@ -53,7 +53,7 @@ const QVector<Monkey::Row> &Monkey::rows()
         {"editContents", 18, &Monkey::editContents},
         {"editAndLose", 1, &Monkey::editAndLose},
         {"changeProperty", 8, &Monkey::changeProperty},
-        {"editLists", 8, &Monkey::editLists},
+        {"editLists", 12, &Monkey::editLists},
         {"moveByKeys", 3, &Monkey::moveByKeys},
         {"doubleClick", 3, &Monkey::doubleClick},
         {"switchResources", 2, &Monkey::switchResources},
@@ -179,8 +179,8 @@ QList<QWidget *> Monkey::widgets() const
 
 bool Monkey::isOnForm(const QWidget *widget) const
 {
-    // Where a drop is undone, the form forgets what was dropped and leaves it hidden, with all that it brought
-    // along still managed.
+    // Where a drop is undone, the form forgets what was dropped and leaves it hidden, with all that it
+    // brought along still managed.
     for (; widget && widget != m_form->mainContainer(); widget = widget->parentWidget()) {
         if (widget->property("_q_formEditorObject").isValid()
             && !m_host.core()->metaDataBase()->item(const_cast<QWidget *>(widget)))

@@ -9,6 +9,7 @@
 
 #include <QtCore/QMap>
 #include <QtCore/QPointer>
+#include <QtCore/QSize>
 #include <QtCore/QTemporaryDir>
 
 #include <optional>
@@ -73,6 +74,7 @@ private:
 
     /// Everything that one contents edit and its undo may change.
     struct FormState {
+        QSize windowSize;
         QString saved;
         QString pages;
     };
@@ -96,7 +98,7 @@ private:
     QUndoStack *history() const;
     /// The form as it would be saved, without what no undo step covers.
     QString text() const;
-    FormState state() const;
+    FormState state(const QSize &windowSize) const;
     /// The current pages of the groups, which are saved only where a property was set.
     QString pages() const;
     void finding(const QString &text);

@@ -88,11 +88,9 @@ void Monkey::editLists(Random &random)
     if (controls.isEmpty())
         return;
     QWidget *control = random.pick(controls);
-    const QStringList names = contentsProperties(control);
     DesignerHost::select(m_form, control);
     ++m_done["editLists"];
-    for (int i = random.below(3); i >= 0; --i)
-        setProperty(control, random.pick(names), random);
+    setProperty(control, random.pick(contentsProperties(control)), random);
 }
 
 void Monkey::setProperty(QWidget *widget, const QString &name, Random &random)
