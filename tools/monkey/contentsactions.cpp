@@ -39,7 +39,7 @@ void Monkey::editContents(Random &random)
         return finding(QStringLiteral("no task menu for ") + control->objectName());
     EditCounts &counts = m_tally.of(control);
     const QStringList textsBefore = textsOf(control);
-    const FormState before = state(m_form->window()->size());
+    const FormState before = state(growingWidgets());
     const int indexBefore = history()->index();
     QStringList accepted;
     bool ok = false;
@@ -65,7 +65,7 @@ void Monkey::editContents(Random &random)
         return finding(QStringLiteral("no dialog opens for ") + control->objectName());
     ++counts.opened;
     counts.cancelled += !ok;
-    if (!ok && (history()->index() != indexBefore || state(before.windowSize).saved != before.saved))
+    if (!ok && (history()->index() != indexBefore || state(before.sizes).saved != before.saved))
         return finding(QStringLiteral("a cancelled dialog changed ") + control->objectName());
     if (!ok)
         return;

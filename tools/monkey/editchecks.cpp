@@ -13,14 +13,29 @@
 
 #include <QtWidgets/QUndoStack>
 
-Monkey::FormState Monkey::state(const QSize &windowSize) const
+Monkey::Sizes Monkey::growingWidgets() const
 {
-    // A window grows with the layouts in it, at some time, and never shrinks with them.
-    m_form->window()->resize(windowSize + QSize(1, 1));
-    settle();
-    m_form->window()->resize(windowSize);
-    settle();
-    return {windowSize, DesignerHost::save(m_form), pages()};
+    Sizes sizes{{m_form->window(), m_form->window()->size()}};
+    const auto children = m_form->mainContainer()->findChildren<QWidget *>();
+    for (QWidget *child : children) {
+        if (child->inherits("QLayoutWidget"))
+            sizes += {child, child->size()};
+    }
+    return sizes;
+}
+
+Monkey::FormState Monkey::state(const Sizes &sizes) const
+{
+    // The window and what the form editor puts behind a layout grow with the layout, at some time, and never
+    // shrink with it.
+    for (const QSize &more : {QSize(1, 1), QSize(0, 0)}) {
+        for (const auto &[widget, size] : sizes) {
+            if (widget)
+                widget->resize(size + more);
+        }
+        settle();
+    }
+    return {sizes, DesignerHost::save(m_form), pages()};
 }
 
 QString Monkey::pages() const
@@ -57,7 +72,7 @@ void Monkey::checkEdit(QWidget *control, const FormState &before, int indexBefor
                            .arg(control->objectName())
                            .arg(history()->index() - indexBefore));
     checkPropertyEditor(control, QStringLiteral("after the edit"));
-    const FormState after = state(before.windowSize);
+    const FormState after = state(before.sizes);
     history()->undo();
     settle();
     checkState(before, QStringLiteral("undo of the edit of ") + control->objectName());
@@ -71,7 +86,7 @@ void Monkey::checkEdit(QWidget *control, const FormState &before, int indexBefor
 
 void Monkey::checkState(const FormState &expected, const QString &what)
 {
-    const FormState now = state(expected.windowSize);
+    const FormState now = state(expected.sizes);
     if (now.saved != expected.saved)
         finding(
             QStringLiteral("%1 gives other bytes: %2").arg(what, firstDifference(expected.saved, now.saved)));

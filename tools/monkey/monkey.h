@@ -11,6 +11,7 @@
 #include <QtCore/QPointer>
 #include <QtCore/QSize>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QVector>
 
 #include <optional>
 
@@ -72,9 +73,10 @@ private:
     void closeForm(Random &random);
     void checkHistory(Random &random);
 
+    using Sizes = QVector<QPair<QPointer<QWidget>, QSize>>;
     /// Everything that one contents edit and its undo may change.
     struct FormState {
-        QSize windowSize;
+        Sizes sizes;
         QString saved;
         QString pages;
     };
@@ -98,7 +100,10 @@ private:
     QUndoStack *history() const;
     /// The form as it would be saved, without what no undo step covers.
     QString text() const;
-    FormState state(const QSize &windowSize) const;
+    /// What grows with its layout, and how large it is.
+    Sizes growingWidgets() const;
+    /// The form with these in their sizes.
+    FormState state(const Sizes &sizes) const;
     /// The current pages of the groups, which are saved only where a property was set.
     QString pages() const;
     void finding(const QString &text);
