@@ -59,16 +59,16 @@ QIcon ControlPlugin::icon() const { return QIcon(); }
 
 bool ControlPlugin::isContainer() const { return m_row.container; }
 
-bool ControlPlugin::isInitialized() const { return m_initialized; }
+bool ControlPlugin::isInitialized() const { return m_initializedWith; }
 
 void ControlPlugin::initialize(QDesignerFormEditorInterface *core)
 {
-    if (m_initialized)
+    if (isInitialized())
         return;
     keepCore(core);
     if (QExtensionManager *manager = core ? core->extensionManager() : nullptr)
         registerExtensions(manager, core);
-    m_initialized = true;
+    m_initializedWith = core ? static_cast<QObject *>(core) : this;
 }
 
 QString ControlPlugin::domXml() const
@@ -86,6 +86,20 @@ void ControlPlugin::registerExtensions(QExtensionManager *, QDesignerFormEditorI
 void ControlPlugin::keepCore(QDesignerFormEditorInterface *) { }
 
 void ControlPlugin::watchDesigner() { }
+
+void ControlPlugin::warnOfSecondFormEditor(QWidget *parent) const
+{
+    const QDesignerFormWindowInterface *form
+        = parent ? QDesignerFormWindowInterface::findFormWindow(parent) : nullptr;
+    QDesignerFormEditorInterface *core = form ? form->core() : nullptr;
+    constexpr char warned[] = "_q_sorrelSecondFormEditor";
+    if (!core || !m_initializedWith || m_initializedWith == core || m_initializedWith == this
+        || core->property(warned).toBool())
+        return;
+    core->setProperty(warned, true);
+    qWarning("SorrelPlugin: another form editor of this process has the controls; in this one their contents "
+             "are neither edited nor saved.");
+}
 
 void CoreKeepingControlPlugin::keepCore(QDesignerFormEditorInterface *core) { m_core = core; }
 
@@ -105,6 +119,12 @@ void PropertyWatchingControlPlugin::propertyChanged(const QString &, const QVari
     QObject *object = m_propertyEditor ? m_propertyEditor->object() : nullptr;
     if (object && isOfClass(object, m_row.className))
         static_cast<QWidget *>(object)->update();
+}
+
+void ResourceWatchingControlPlugin::keepCore(QDesignerFormEditorInterface *core)
+{
+    PropertyWatchingControlPlugin::keepCore(core);
+    m_model = nullptr; // a new one may live where the old one lived
 }
 
 void ResourceWatchingControlPlugin::watchDesigner()

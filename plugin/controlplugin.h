@@ -31,8 +31,10 @@ public:
     QString includeFile() const override;
     QIcon icon() const override;
     bool isContainer() const override;
+    /// True for as long as the form editor lives that it was initialized with.
     bool isInitialized() const override;
-    /// Registers the control's Designer extensions, the first time only. A null core registers nothing.
+    /// Registers the control's Designer extensions, the first time only. A null core registers nothing. Once
+    /// the form editor is gone it can be initialized with another one.
     void initialize(QDesignerFormEditorInterface *core) override;
     QString domXml() const override;
     QString codeTemplate() const override;
@@ -43,11 +45,15 @@ protected:
     virtual void keepCore(QDesignerFormEditorInterface *core);
     /// Called before each widget is made.
     virtual void watchDesigner();
+    /// Says so, once per form editor, where \a parent is on a form of one that came while another one lived.
+    /// Its extensions would have to be registered by initialize(), which is not called then.
+    void warnOfSecondFormEditor(QWidget *parent) const;
 
     const ControlRow &m_row;
 
 private:
-    bool m_initialized = false;
+    /// The form editor, or the descriptor itself where it was initialized with none.
+    QPointer<QObject> m_initializedWith;
 };
 
 /// A descriptor that keeps the form editor.
@@ -88,6 +94,7 @@ public:
     using PropertyWatchingControlPlugin::PropertyWatchingControlPlugin;
 
 protected:
+    void keepCore(QDesignerFormEditorInterface *core) override;
     void watchDesigner() override;
 
 protected slots:
@@ -129,6 +136,7 @@ public:
     /// The control belongs to \a parent, or to the caller where there is none.
     QWidget *createWidget(QWidget *parent) override
     {
+        this->warnOfSecondFormEditor(parent);
         this->watchDesigner();
         return new Control(parent);
     }

@@ -83,6 +83,11 @@ protected:
 private slots:
     void currentIndexChanged(int index);
     void pageTitleChanged(const QString &title);
+    /// Makes a title that was edited in the control one undo step.
+    void pageTitleEdited(int index, const QString &before);
+
+private:
+    static void selectShownGroup(QDesignerFormWindowInterface *form, Vexa::DrawbackBoxGroup *group);
 };
 
 class FormPlugin final : public Descriptor<Vexa::Form, rowOf("Vexa::Form")> {

@@ -1,9 +1,13 @@
 #pragma once
 
+#include "propertyeditorrefresh.h"
+
 #include <private/formwindowbase_p.h>
 #include <private/qdesigner_formwindowcommand_p.h>
 
 #include <QtCore/QPointer>
+
+#include <functional>
 
 /// The slot of option and matrix controls that lays out their buttons; the controls spell it so.
 inline constexpr char layOutSlot[] = "updateGeomtries";
@@ -11,6 +15,9 @@ inline constexpr char layOutSlot[] = "updateGeomtries";
 /// The undo step of a contents edit: writes the new contents into the control on redo and the old ones on
 /// undo, and then invokes a slot of the control by name, if one is given. Once the control is gone it does
 /// nothing.
+///
+/// Contents do not hold everything that writing them changes, such as entries of a list that no item shows.
+/// Undo puts that back, too, so that the form is again what it was to the byte.
 ///
 /// \a Contents is a value; a subclass says how it is written.
 template <class Control, class Contents>
@@ -24,10 +31,19 @@ public:
         m_newContents = newContents;
     }
 
-    void undo() override { apply(m_oldContents); }
-    void redo() override { apply(m_newContents); }
+    void undo() override { apply(m_oldContents, m_putBack); }
+    void redo() override
+    {
+        if (m_control && !m_putBack)
+            m_putBack = keepRest(m_control);
+        apply(m_newContents, {});
+    }
 
 protected:
+    /// What makes the rest of a control, everything that write() may change and contents do not hold, what it
+    /// was when this was made.
+    using PutBack = std::function<void(Control *)>;
+
     /// \a slot is a name without arguments that outlives the command, or null.
     ChangeContentsCommand(
         const QString &description, QDesignerFormWindowInterface *formWindow, const char *slot = nullptr)
@@ -39,23 +55,30 @@ protected:
     }
 
     virtual void write(const Contents &contents, Control *control) = 0;
+    /// Called once, before anything is written.
+    virtual PutBack keepRest(Control *control) const = 0;
 
     /// The form's icon cache, null where the form has none.
     qdesigner_internal::DesignerIconCache *iconCache() const { return m_iconCache; }
 
 private:
-    void apply(const Contents &contents)
+    void apply(const Contents &contents, const PutBack &putBack)
     {
         if (!m_control)
             return;
         write(contents, m_control);
-        if (m_slot) // for a control that went with the write this does nothing
+        if (m_control && putBack)
+            putBack(m_control);
+        if (m_control && m_slot)
             QMetaObject::invokeMethod(m_control, m_slot);
+        if (m_control)
+            refreshPropertyEditor(core(), m_control);
     }
 
     QPointer<Control> m_control;
     Contents m_oldContents;
     Contents m_newContents;
+    PutBack m_putBack;
     qdesigner_internal::DesignerIconCache *m_iconCache = nullptr;
     const char *const m_slot;
 };

@@ -41,6 +41,9 @@ protected:
     template <class Command, class Dialog, class Control, class Contents>
     bool editContents(Contents (Dialog::*fill)(Control *));
 
+    /// Pushes the \a command of an edit, which becomes one entry of the form's undo list.
+    virtual void push(QUndoCommand *command);
+
 private slots:
     virtual void editItems() = 0;
 
@@ -49,7 +52,6 @@ private:
     bool findForm();
     /// True if the dialog was accepted and everything an edit needs is still there, \a dialog included.
     bool run(QDialog *dialog);
-    void push(QUndoCommand *command);
 
     QAction *const m_editAction;
     QPointer<QWidget> m_control;

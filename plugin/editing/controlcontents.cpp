@@ -1,5 +1,8 @@
 #include "controlcontents.h"
 
+#include "propertyeditor/cachedicons.h"
+#include "stringlists.h"
+
 #include <sorrel/SrComboBox.h>
 #include <sorrel/SrLineEditEx.h>
 #include <sorrel/SrOptionButtons.h>
@@ -11,79 +14,57 @@
 #include <QtGui/QStandardItemModel>
 
 #include <algorithm>
-#include <array>
+
+using qdesigner_internal::PropertySheetIconValue;
+using qdesigner_internal::PropertySheetStringValue;
 
 namespace {
 
-/// One of the parallel string lists of a control and the role of its strings.
-template <class Control>
-struct StringListField {
-    int role;
-    QStringList (*read)(Control *);
-    void (*write)(Control *, const QStringList &);
-};
-
-// In the order in which they are written.
-constexpr StringListField<Vexa::CheckableTextComboBox> checkComboFields[]
-    = {{ItemRole::Text, [](auto *c) { return c->itemTextList(); },
-           [](auto *c, auto &list) { c->setItemTextList(list); }},
+constexpr StringLists<Vexa::CheckableTextComboBox, 2> checkComboLists{
+    {{ItemRole::Text, [](auto *c) { return c->itemTextList(); },
+         [](auto *c, auto &list) { c->setItemTextList(list); }},
         {ItemRole::ToolTip, [](auto *c) { return c->toolTips(); },
-            [](auto *c, auto &list) { c->setToolTips(list); }}};
+            [](auto *c, auto &list) { c->setToolTips(list); }}}};
 
-constexpr StringListField<Vexa::OptionComboBox> optionComboFields[]
-    = {{ItemRole::Text, [](auto *c) { return c->textList(); },
-           [](auto *c, auto &list) { c->setTextList(list); }},
+constexpr StringLists<Vexa::OptionComboBox, 3> optionComboLists{
+    {{ItemRole::Text, [](auto *c) { return c->textList(); },
+         [](auto *c, auto &list) { c->setTextList(list); }},
         {ItemRole::Icon, [](auto *c) { return c->iconList(); },
             [](auto *c, auto &list) { c->setIconList(list); }},
         {ItemRole::Data, [](auto *c) { return c->dataList(); },
-            [](auto *c, auto &list) { c->setDataList(list); }}};
+            [](auto *c, auto &list) { c->setDataList(list); }}}};
 
 template <class Options>
-constexpr StringListField<Options> optionFields[] = {{ItemRole::Text, [](auto *c) { return c->textList(); },
-                                                         [](auto *c, auto &list) { c->setTextList(list); }},
+constexpr StringLists<Options, 4> optionLists{{{ItemRole::Text, [](auto *c) { return c->textList(); },
+                                                   [](auto *c, auto &list) { c->setTextList(list); }},
     {ItemRole::Icon, [](auto *c) { return c->iconList(); },
         [](auto *c, auto &list) { c->setIconList(list); }},
     {ItemRole::ToolTip, [](auto *c) { return c->toolTips(); },
         [](auto *c, auto &list) { c->setToolTips(list); }},
     {ItemRole::Data, [](auto *c) { return c->dataList(); },
-        [](auto *c, auto &list) { c->setDataList(list); }}};
+        [](auto *c, auto &list) { c->setDataList(list); }}}};
 
 template <class Control, std::size_t fieldCount>
-ListContents readLists(Control *control, int count, const StringListField<Control> (&fields)[fieldCount])
+ListContents readLists(Control *control, int count, const StringLists<Control, fieldCount> &codec)
 {
-    std::array<QStringList, fieldCount> lists;
-    for (std::size_t i = 0; i < fieldCount; ++i)
-        lists[i] = fields[i].read(control);
-
+    const auto lists = codec.read(control);
     ListContents contents;
     contents.reserve(std::max(count, 0));
-    for (int index = 0; index < count; ++index) {
-        ItemData entry;
-        for (std::size_t i = 0; i < fieldCount; ++i) {
-            if (index >= lists[i].size())
-                continue;
-            const QString &string = lists[i].at(index);
-            if (fields[i].role == ItemRole::Icon)
-                entry.setIconPath(string);
-            else
-                entry.setText(fields[i].role, string);
-        }
-        contents.append(entry);
-    }
+    for (int index = 0; index < count; ++index)
+        contents.append(codec.entry(lists, index));
     return contents;
 }
 
 template <class Control, std::size_t fieldCount>
-void writeLists(
-    const ListContents &contents, Control *control, const StringListField<Control> (&fields)[fieldCount])
+void writeLists(const ListContents &contents, Control *control, const StringLists<Control, fieldCount> &codec)
 {
     if (!control)
         return;
-    for (const auto &field : fields) {
+    for (const auto &field : codec.fields) {
         QStringList list;
         list.reserve(contents.size());
         for (const ItemData &entry : contents)
-            list.append(field.role == ItemRole::Icon ? entry.iconPath() : entry.text(field.role));
+            list.append(codec.string(entry, field.role));
         field.write(control, list);
     }
 }
@@ -99,7 +80,7 @@ QStandardItem *makeItem(const ItemData &entry, qdesigner_internal::DesignerIconC
     if (icon.isValid()) {
         item->setData(icon, ItemRole::Icon);
         if (iconCache)
-            item->setIcon(iconCache->icon(qvariant_cast<qdesigner_internal::PropertySheetIconValue>(icon)));
+            item->setIcon(cachedIcon(iconCache, qvariant_cast<PropertySheetIconValue>(icon)));
     }
     return item;
 }
@@ -118,6 +99,23 @@ void addItems(const QList<QStandardItem *> &items, QComboBox *comboBox)
             comboBox->setItemData(comboBox->count() - 1, item->data(role), role);
         delete item;
     }
+}
+
+/// Whether an item is again what it was once its texts and icons are written.
+bool isInContents(const QMap<int, QVariant> &item)
+{
+    const QVariant text = item.value(ItemRole::Text);
+    if (!text.canConvert<PropertySheetStringValue>()
+        || text.value<PropertySheetStringValue>().value() != item.value(Qt::DisplayRole).toString())
+        return false;
+    for (auto it = item.cbegin(); it != item.cend(); ++it) {
+        const bool known = it.key() == Qt::DisplayRole || it.key() == ItemRole::Text
+            || it.key() == ItemRole::Icon
+            || (it.key() == Qt::DecorationRole && item.contains(ItemRole::Icon));
+        if (!known)
+            return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -152,55 +150,103 @@ void applyToComboBox(
     if (!comboBox)
         return;
     comboBox->clear();
+    const int count = std::min(contents.size(), comboBox->maxCount());
     QList<QStandardItem *> items;
-    items.reserve(contents.size());
+    items.reserve(count);
     QStringList actions;
-    actions.reserve(contents.size());
-    for (const ItemData &entry : contents) {
-        items.append(makeItem(entry, iconCache));
-        actions.append(entry.text(ItemRole::Action));
+    actions.reserve(count);
+    for (int i = 0; i < count; ++i) {
+        items.append(makeItem(contents.at(i), iconCache));
+        actions.append(contents.at(i).text(ItemRole::Action));
     }
     addItems(items, comboBox);
     comboBox->setActionList(actions);
 }
 
+std::function<void(Vexa::ComboBox *)> keepItems(Vexa::ComboBox *comboBox)
+{
+    QMap<int, QMap<int, QVariant>> items;
+    for (int row = 0; row < comboBox->count(); ++row) {
+        const QModelIndex index
+            = comboBox->model()->index(row, comboBox->modelColumn(), comboBox->rootModelIndex());
+        const QMap<int, QVariant> item = comboBox->model()->itemData(index);
+        if (!isInContents(item))
+            items.insert(row, item);
+    }
+    return [items, actions = comboBox->actionList(), current = comboBox->currentIndex(),
+               text = comboBox->currentText()](Vexa::ComboBox *changed) {
+        for (auto it = items.cbegin(); it != items.cend(); ++it) {
+            if (it->value(ItemRole::Text).isNull())
+                changed->insertItem(it.key(), QString());
+            const QModelIndex index
+                = changed->model()->index(it.key(), changed->modelColumn(), changed->rootModelIndex());
+            changed->model()->setItemData(index, *it);
+        }
+        if (changed->actionList() != actions)
+            changed->setActionList(actions);
+        changed->setCurrentIndex(current);
+        if (changed->isEditable() && changed->currentText() != text)
+            changed->setEditText(text);
+    };
+}
+
+std::function<void(Vexa::CheckableTextComboBox *)> keepLists(Vexa::CheckableTextComboBox *checkCombo)
+{
+    return checkComboLists.keep(checkCombo);
+}
+
+std::function<void(Vexa::OptionComboBox *)> keepLists(Vexa::OptionComboBox *optionCombo)
+{
+    return optionComboLists.keep(optionCombo);
+}
+
+std::function<void(Vexa::OptionButtons *)> keepLists(Vexa::OptionButtons *buttons)
+{
+    return optionLists<Vexa::OptionButtons>.keep(buttons);
+}
+
+std::function<void(Vexa::OptionRadios *)> keepLists(Vexa::OptionRadios *radios)
+{
+    return optionLists<Vexa::OptionRadios>.keep(radios);
+}
+
 ListContents fromCheckCombo(Vexa::CheckableTextComboBox *checkCombo)
 {
     const QComboBox *items = checkCombo ? checkCombo->comboBox() : nullptr;
-    return items ? readLists(checkCombo, items->count(), checkComboFields) : ListContents();
+    return items ? readLists(checkCombo, items->count(), checkComboLists) : ListContents();
 }
 
 void applyToCheckCombo(const ListContents &contents, Vexa::CheckableTextComboBox *checkCombo)
 {
-    writeLists(contents, checkCombo, checkComboFields);
+    writeLists(contents, checkCombo, checkComboLists);
 }
 
 ListContents fromOptionCombo(Vexa::OptionComboBox *optionCombo)
 {
-    return optionCombo ? readLists(optionCombo, optionCombo->count(), optionComboFields) : ListContents();
+    return optionCombo ? readLists(optionCombo, optionCombo->count(), optionComboLists) : ListContents();
 }
 
 void applyToOptionCombo(const ListContents &contents, Vexa::OptionComboBox *optionCombo)
 {
-    writeLists(contents, optionCombo, optionComboFields);
+    writeLists(contents, optionCombo, optionComboLists);
 }
 
 ListContents fromOptionButtons(Vexa::OptionButtons *buttons)
 {
-    return buttons ? readLists(buttons, buttons->count(), optionFields<Vexa::OptionButtons>) : ListContents();
+    return buttons ? readLists(buttons, buttons->count(), optionLists<Vexa::OptionButtons>) : ListContents();
 }
 
 void applyToOptionButtons(const ListContents &contents, Vexa::OptionButtons *buttons)
 {
-    writeLists(contents, buttons, optionFields<Vexa::OptionButtons>);
+    writeLists(contents, buttons, optionLists<Vexa::OptionButtons>);
 }
 
 ListContents fromOptionRadios(Vexa::OptionRadios *radios)
 {
-    return radios ? readLists(radios, radios->count(), optionFields<Vexa::OptionRadios>) : ListContents();
+    return radios ? readLists(radios, radios->count(), optionLists<Vexa::OptionRadios>) : ListContents();
 }
 
 void applyToOptionRadios(const ListContents &contents, Vexa::OptionRadios *radios)
 {
-    writeLists(contents, radios, optionFields<Vexa::OptionRadios>);
+    writeLists(contents, radios, optionLists<Vexa::OptionRadios>);
 }

@@ -2,6 +2,8 @@
 
 #include "listcontents.h"
 
+#include <functional>
+
 namespace Vexa {
 class CheckableTextComboBox;
 class ComboBox;
@@ -24,8 +26,18 @@ ListContents fromOptionCombo(Vexa::OptionComboBox *optionCombo);
 ListContents fromOptionButtons(Vexa::OptionButtons *buttons);
 ListContents fromOptionRadios(Vexa::OptionRadios *radios);
 
+/// What makes the items of the combo box that fromComboBox() does not give in full, its action list, its
+/// current item and its text what they are now, once its items have been written again.
+std::function<void(Vexa::ComboBox *)> keepItems(Vexa::ComboBox *comboBox);
+/// What makes the lists of the control what they are now, to the last entry.
+std::function<void(Vexa::CheckableTextComboBox *)> keepLists(Vexa::CheckableTextComboBox *checkCombo);
+std::function<void(Vexa::OptionComboBox *)> keepLists(Vexa::OptionComboBox *optionCombo);
+std::function<void(Vexa::OptionButtons *)> keepLists(Vexa::OptionButtons *buttons);
+std::function<void(Vexa::OptionRadios *)> keepLists(Vexa::OptionRadios *radios);
+
 /// Items get icons only with an \a iconCache; their text and icon values are stored with them in any case.
-/// The action list gets one name per item.
+/// The action list gets one name per item. As with addItem(), there are never more items than the combo
+/// box takes.
 void applyToComboBox(
     const ListContents &contents, Vexa::ComboBox *comboBox, qdesigner_internal::DesignerIconCache *iconCache);
 void applyToCheckCombo(const ListContents &contents, Vexa::CheckableTextComboBox *checkCombo);

@@ -1,9 +1,14 @@
 #include "drawbackboxcommand.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QExtensionManager>
+
+namespace {
+QString titleProperty() { return QStringLiteral("windowTitle"); }
+} // namespace
 
 // The text is that of the option radios' command on purpose: it has always been so, and translations know it.
 ChangeDrawbackBoxCommand::ChangeDrawbackBoxCommand(QDesignerFormWindowInterface *formWindow)
@@ -29,10 +34,40 @@ void ChangeDrawbackBoxCommand::write(const DrawbackBoxContents &contents, Vexa::
         // A box without a title has no row in the editor, so there may be fewer titles than pages.
         if (index < contents.items.size())
             group->setPageTitle(contents.items.at(index).text(ItemRole::Text));
-        markTitle(group->widget(index));
+        // A title that the page had from the beginning is saved, too, and one that is taken back is not.
+        QWidget *page = group->widget(index);
+        if (auto *sheet = propertySheet(page))
+            sheet->setChanged(sheet->indexOf(titleProperty()), !page->windowTitle().isEmpty());
     }
     if (core())
         cheapUpdate(); // pages may have come and gone
+}
+
+ChangeDrawbackBoxCommand::PutBack ChangeDrawbackBoxCommand::keepRest(Vexa::DrawbackBoxGroup *group) const
+{
+    struct Title {
+        QPointer<QWidget> page;
+        QString text;
+        bool changed;
+    };
+    QVector<Title> titles;
+    for (int index = 0; index < group->count(); ++index) {
+        QWidget *page = group->widget(index);
+        const auto *sheet = propertySheet(page);
+        if (page)
+            titles.append(
+                {page, page->windowTitle(), sheet && sheet->isChanged(sheet->indexOf(titleProperty()))});
+    }
+    return [this, titles, current = group->currentIndex()](Vexa::DrawbackBoxGroup *changed) {
+        changed->setCurrentIndex(current);
+        for (const Title &title : titles) {
+            if (!title.page)
+                continue;
+            title.page->setWindowTitle(title.text);
+            if (auto *sheet = propertySheet(title.page))
+                sheet->setChanged(sheet->indexOf(titleProperty()), title.changed);
+        }
+    };
 }
 
 void ChangeDrawbackBoxCommand::replaceBoxes(
@@ -59,12 +94,8 @@ void ChangeDrawbackBoxCommand::replaceBoxes(
         formWindow()->emitSelectionChanged();
 }
 
-void ChangeDrawbackBoxCommand::markTitle(QWidget *page) const
+QDesignerPropertySheetExtension *ChangeDrawbackBoxCommand::propertySheet(QWidget *page) const
 {
-    auto *sheet = page && core()
-        ? qt_extension<QDesignerPropertySheetExtension *>(core()->extensionManager(), page)
-        : nullptr;
-    // A title that the page had from the beginning is saved, too, and one that is taken back is not.
-    if (sheet)
-        sheet->setChanged(sheet->indexOf(QStringLiteral("windowTitle")), !page->windowTitle().isEmpty());
+    return page && core() ? qt_extension<QDesignerPropertySheetExtension *>(core()->extensionManager(), page)
+                          : nullptr;
 }

@@ -5,6 +5,8 @@
 
 #include <sorrel/SrDrawbackBoxGroup.h>
 
+class QDesignerPropertySheetExtension;
+
 /// Puts boxes into a group and titles on their pages. Boxes that are in only one of the two contents are out
 /// of the group the other half of the time; the command holds them then, see DrawbackBoxHold.
 class ChangeDrawbackBoxCommand final
@@ -22,8 +24,11 @@ public:
 
 private:
     void write(const DrawbackBoxContents &contents, Vexa::DrawbackBoxGroup *group) override;
+    /// The titles of the pages, which a control may show otherwise than they are, and the current page.
+    PutBack keepRest(Vexa::DrawbackBoxGroup *group) const override;
     void replaceBoxes(const QVector<DrawbackBoxHold> &boxes, Vexa::DrawbackBoxGroup *group);
-    void markTitle(QWidget *page) const;
+    /// Null without a page or a form.
+    QDesignerPropertySheetExtension *propertySheet(QWidget *page) const;
 
     QVector<int> m_initialIds;
     QVector<int> m_currentIds;

@@ -1,5 +1,7 @@
 #include "itemdata.h"
 
+#include "propertyeditor/cachedicons.h"
+
 #include <private/qdesigner_utils_p.h>
 #include <private/shared_enums_p.h>
 
@@ -159,7 +161,7 @@ void ItemData::fillItem(Item *item, DesignerIconCache *iconCache, bool editor) c
         switch (field.role) {
         case ItemRole::Icon:
             if (const auto *icon = iconCache ? peek<PropertySheetIconValue>(field.value) : nullptr)
-                item->setIcon(iconCache->icon(*icon));
+                item->setIcon(qdesigner_internal::cachedIcon(iconCache, *icon));
             break;
         case ItemRole::Text:
             item->setText(string(field.value));

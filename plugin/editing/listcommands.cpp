@@ -13,11 +13,21 @@ ChangeComboBoxCommand::ChangeComboBoxCommand(QDesignerFormWindowInterface *formW
 
 void ChangeComboBoxCommand::write(const ListContents &contents, Vexa::ComboBox *comboBox)
 {
-    // New items make the first one current, which is not what the user chose on the form.
+    // New items make the first one current and its text the edited one, which is not what the user chose on
+    // the form.
     if (!m_currentIndex)
         m_currentIndex = comboBox->count() ? comboBox->currentIndex() : 0;
+    const QString typed = comboBox->currentText();
+    const bool isTyped = comboBox->isEditable() && typed != comboBox->itemText(comboBox->currentIndex());
     applyToComboBox(contents, comboBox, iconCache());
     comboBox->setCurrentIndex(std::min(*m_currentIndex, comboBox->count() - 1));
+    if (isTyped)
+        comboBox->setEditText(typed);
+}
+
+ChangeComboBoxCommand::PutBack ChangeComboBoxCommand::keepRest(Vexa::ComboBox *comboBox) const
+{
+    return keepItems(comboBox);
 }
 
 ChangeCheckComboCommand::ChangeCheckComboCommand(QDesignerFormWindowInterface *formWindow)
@@ -30,6 +40,12 @@ void ChangeCheckComboCommand::write(const ListContents &contents, Vexa::Checkabl
     applyToCheckCombo(contents, checkCombo);
 }
 
+ChangeCheckComboCommand::PutBack ChangeCheckComboCommand::keepRest(
+    Vexa::CheckableTextComboBox *checkCombo) const
+{
+    return keepLists(checkCombo);
+}
+
 ChangeOptionComboCommand::ChangeOptionComboCommand(QDesignerFormWindowInterface *formWindow)
     : ChangeContentsCommand(QString(), formWindow)
 {
@@ -38,6 +54,11 @@ ChangeOptionComboCommand::ChangeOptionComboCommand(QDesignerFormWindowInterface 
 void ChangeOptionComboCommand::write(const ListContents &contents, Vexa::OptionComboBox *optionCombo)
 {
     applyToOptionCombo(contents, optionCombo);
+}
+
+ChangeOptionComboCommand::PutBack ChangeOptionComboCommand::keepRest(Vexa::OptionComboBox *optionCombo) const
+{
+    return keepLists(optionCombo);
 }
 
 ChangeOptionButtonsCommand::ChangeOptionButtonsCommand(QDesignerFormWindowInterface *formWindow)
@@ -51,6 +72,11 @@ void ChangeOptionButtonsCommand::write(const ListContents &contents, Vexa::Optio
     applyToOptionButtons(contents, buttons);
 }
 
+ChangeOptionButtonsCommand::PutBack ChangeOptionButtonsCommand::keepRest(Vexa::OptionButtons *buttons) const
+{
+    return keepLists(buttons);
+}
+
 ChangeOptionRadiosCommand::ChangeOptionRadiosCommand(QDesignerFormWindowInterface *formWindow)
     : ChangeContentsCommand(
         QCoreApplication::translate("Command", "Change OptionRadios Contents"), formWindow, layOutSlot)
@@ -60,4 +86,9 @@ ChangeOptionRadiosCommand::ChangeOptionRadiosCommand(QDesignerFormWindowInterfac
 void ChangeOptionRadiosCommand::write(const ListContents &contents, Vexa::OptionRadios *radios)
 {
     applyToOptionRadios(contents, radios);
+}
+
+ChangeOptionRadiosCommand::PutBack ChangeOptionRadiosCommand::keepRest(Vexa::OptionRadios *radios) const
+{
+    return keepLists(radios);
 }

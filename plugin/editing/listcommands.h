@@ -19,6 +19,7 @@ public:
 
 private:
     void write(const ListContents &contents, Vexa::ComboBox *comboBox) override;
+    PutBack keepRest(Vexa::ComboBox *comboBox) const override;
 
     std::optional<int> m_currentIndex; ///< before the first write
 };
@@ -30,6 +31,7 @@ public:
 
 private:
     void write(const ListContents &contents, Vexa::CheckableTextComboBox *checkCombo) override;
+    PutBack keepRest(Vexa::CheckableTextComboBox *checkCombo) const override;
 };
 
 class ChangeOptionComboCommand final : public ChangeContentsCommand<Vexa::OptionComboBox, ListContents> {
@@ -38,6 +40,7 @@ public:
 
 private:
     void write(const ListContents &contents, Vexa::OptionComboBox *optionCombo) override;
+    PutBack keepRest(Vexa::OptionComboBox *optionCombo) const override;
 };
 
 class ChangeOptionButtonsCommand final : public ChangeContentsCommand<Vexa::OptionButtons, ListContents> {
@@ -46,6 +49,7 @@ public:
 
 private:
     void write(const ListContents &contents, Vexa::OptionButtons *buttons) override;
+    PutBack keepRest(Vexa::OptionButtons *buttons) const override;
 };
 
 class ChangeOptionRadiosCommand final : public ChangeContentsCommand<Vexa::OptionRadios, ListContents> {
@@ -54,4 +58,5 @@ public:
 
 private:
     void write(const ListContents &contents, Vexa::OptionRadios *radios) override;
+    PutBack keepRest(Vexa::OptionRadios *radios) const override;
 };

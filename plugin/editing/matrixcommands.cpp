@@ -13,6 +13,11 @@ void ChangeMatrixBtnsCommand::write(const MatrixContents &contents, Vexa::Abstra
     contents.applyToMatrixButtons(matrix);
 }
 
+ChangeMatrixBtnsCommand::PutBack ChangeMatrixBtnsCommand::keepRest(Vexa::AbstractMatrixOptions *matrix) const
+{
+    return MatrixContents::keepLists(matrix);
+}
+
 ChangeMatrixPopBtnsCommand::ChangeMatrixPopBtnsCommand(QDesignerFormWindowInterface *formWindow)
     : ChangeContentsCommand(
         QCoreApplication::translate("Command", "Change MatrixPopButtons Contents"), formWindow, layOutSlot)
@@ -22,4 +27,9 @@ ChangeMatrixPopBtnsCommand::ChangeMatrixPopBtnsCommand(QDesignerFormWindowInterf
 void ChangeMatrixPopBtnsCommand::write(const MatrixContents &contents, Vexa::MatrixPopButtons *matrix)
 {
     contents.applyToMatrixPopButtons(matrix);
+}
+
+ChangeMatrixPopBtnsCommand::PutBack ChangeMatrixPopBtnsCommand::keepRest(Vexa::MatrixPopButtons *matrix) const
+{
+    return MatrixContents::keepLists(matrix);
 }

@@ -14,6 +14,7 @@ public:
 
 private:
     void write(const MatrixContents &contents, Vexa::AbstractMatrixOptions *matrix) override;
+    PutBack keepRest(Vexa::AbstractMatrixOptions *matrix) const override;
 };
 
 /// Writes the size of the control, too.
@@ -24,4 +25,5 @@ public:
 
 private:
     void write(const MatrixContents &contents, Vexa::MatrixPopButtons *matrix) override;
+    PutBack keepRest(Vexa::MatrixPopButtons *matrix) const override;
 };

@@ -1,5 +1,7 @@
 #include "matrixcontents.h"
 
+#include "stringlists.h"
+
 #include <sorrel/SrMatrixButtons.h>
 #include <sorrel/SrMatrixPopButtons.h>
 
@@ -7,7 +9,6 @@
 #include <QtWidgets/QTableWidget>
 
 #include <algorithm>
-#include <array>
 #include <limits>
 
 namespace {
@@ -16,44 +17,15 @@ namespace {
 /// for would exhaust the memory.
 constexpr quint64 maximumIndex = 0xfffff;
 
-/// One of the parallel string lists of a control and the role of its strings.
 template <class Matrix>
-struct ListField {
-    int role;
-    QStringList (*read)(Matrix *);
-    void (*write)(Matrix *, const QStringList &);
-};
-
-constexpr std::size_t fieldCount = 4;
-
-// In the order in which they are written.
-template <class Matrix>
-constexpr ListField<Matrix> fields[fieldCount] = {{ItemRole::Text, [](auto *m) { return m->textList(); },
-                                                      [](auto *m, auto &list) { m->setTextList(list); }},
+constexpr StringLists<Matrix, 4> matrixLists{{{ItemRole::Text, [](auto *m) { return m->textList(); },
+                                                  [](auto *m, auto &list) { m->setTextList(list); }},
     {ItemRole::Icon, [](auto *m) { return m->iconList(); },
         [](auto *m, auto &list) { m->setIconList(list); }},
     {ItemRole::ToolTip, [](auto *m) { return m->toolTips(); },
         [](auto *m, auto &list) { m->setToolTips(list); }},
     {ItemRole::Action, [](auto *m) { return m->actionList(); },
-        [](auto *m, auto &list) { m->setActionList(list); }}};
-
-using Lists = std::array<QStringList, fieldCount>;
-
-template <class Matrix>
-ItemData cellData(const Lists &lists, quint64 index)
-{
-    ItemData data;
-    for (std::size_t i = 0; i < fieldCount; ++i) {
-        if (index >= quint64(lists[i].size()))
-            continue;
-        const QString &string = lists[i].at(int(index));
-        if (fields<Matrix>[i].role == ItemRole::Icon)
-            data.setIconPath(string);
-        else
-            data.setText(fields<Matrix>[i].role, string);
-    }
-    return data;
-}
+        [](auto *m, auto &list) { m->setActionList(list); }}}};
 
 /// \a hasCell(flat index) says which of the cells that can be shown get an entry.
 template <class Matrix, class HasCell>
@@ -66,12 +38,10 @@ MatrixContents readMatrix(Matrix *matrix, HasCell hasCell)
     const quint32 columns = matrix->column();
     contents.rowCount = int(rows);
     contents.columnCount = int(columns);
-    Lists lists;
+    const auto lists = matrixLists<Matrix>.read(matrix);
     quint64 longest = 0;
-    for (std::size_t i = 0; i < fieldCount; ++i) {
-        lists[i] = fields<Matrix>[i].read(matrix);
-        longest = std::max(longest, quint64(lists[i].size()));
-    }
+    for (const QStringList &list : lists)
+        longest = std::max(longest, quint64(list.size()));
 
     const quint32 shown = MatrixContents::maximumCount;
     for (quint32 row = 0; row < std::min(rows, shown); ++row) {
@@ -79,7 +49,7 @@ MatrixContents readMatrix(Matrix *matrix, HasCell hasCell)
             const quint64 index = quint64(row) * columns + column;
             if (hasCell(index))
                 contents.items.insert(
-                    contents.items.cend(), {int(row), int(column)}, cellData<Matrix>(lists, index));
+                    contents.items.cend(), {int(row), int(column)}, matrixLists<Matrix>.entry(lists, index));
         }
     }
 
@@ -89,7 +59,7 @@ MatrixContents readMatrix(Matrix *matrix, HasCell hasCell)
         const quint64 column = index % columns;
         if (row < shown && column < shown)
             continue;
-        const ItemData data = cellData<Matrix>(lists, index);
+        const ItemData data = matrixLists<Matrix>.entry(lists, index);
         if (!data.isEmpty())
             contents.items.insert({int(row), int(column)}, data);
     }
@@ -99,7 +69,7 @@ MatrixContents readMatrix(Matrix *matrix, HasCell hasCell)
 template <class Matrix>
 void clearLists(Matrix *matrix)
 {
-    for (const auto &field : fields<Matrix>)
+    for (const auto &field : matrixLists<Matrix>.fields)
         field.write(matrix, {});
 }
 
@@ -113,7 +83,7 @@ void writeLists(const MatrixContents &contents, Matrix *matrix)
     for (int i = 0; i < contents.items.size(); ++i)
         empty.append(QString());
 
-    for (const auto &field : fields<Matrix>) {
+    for (const auto &field : matrixLists<Matrix>.fields) {
         QStringList list = empty;
         for (auto it = contents.items.cbegin(); it != contents.items.cend(); ++it) {
             // A negative coordinate is above every count of a grid of less than 2^31 rows or columns.
@@ -122,8 +92,7 @@ void writeLists(const MatrixContents &contents, Matrix *matrix)
             const quint64 index = quint64(row) * columns + column;
             if (row >= rows || column >= columns || index > maximumIndex)
                 continue;
-            const QString string
-                = field.role == ItemRole::Icon ? it.value().iconPath() : it.value().text(field.role);
+            const QString string = matrixLists<Matrix>.string(it.value(), field.role);
             if (string.isEmpty())
                 continue;
             // Cells without an entry make the list shorter than the grid.
@@ -204,6 +173,17 @@ void MatrixContents::applyToMatrixPopButtons(Vexa::MatrixPopButtons *matrix) con
     matrix->setColumn(quint32(columnCount));
     matrix->setRow(quint32(rowCount));
     writeLists(*this, matrix);
+}
+
+std::function<void(Vexa::AbstractMatrixOptions *)> MatrixContents::keepLists(
+    Vexa::AbstractMatrixOptions *matrix)
+{
+    return matrixLists<Vexa::AbstractMatrixOptions>.keep(matrix);
+}
+
+std::function<void(Vexa::MatrixPopButtons *)> MatrixContents::keepLists(Vexa::MatrixPopButtons *matrix)
+{
+    return matrixLists<Vexa::MatrixPopButtons>.keep(matrix);
 }
 
 void MatrixContents::shareEqualCells(const MatrixContents &original)

@@ -5,6 +5,8 @@
 #include <QtCore/QMap>
 #include <QtCore/QPair>
 
+#include <functional>
+
 class QTableWidget;
 
 namespace Vexa {
@@ -46,6 +48,10 @@ struct MatrixContents {
     void applyToMatrixButtons(Vexa::AbstractMatrixOptions *matrix) const;
     /// The same, and the size.
     void applyToMatrixPopButtons(Vexa::MatrixPopButtons *matrix) const;
+
+    /// What makes the lists of the control what they are now, to the last entry.
+    static std::function<void(Vexa::AbstractMatrixOptions *)> keepLists(Vexa::AbstractMatrixOptions *matrix);
+    static std::function<void(Vexa::MatrixPopButtons *)> keepLists(Vexa::MatrixPopButtons *matrix);
 
     /// Lets the entries that equal the entry of \a original at the same cell be the same memory as that one.
     void shareEqualCells(const MatrixContents &original);

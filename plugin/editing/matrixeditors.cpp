@@ -1,6 +1,7 @@
 #include "matrixeditors.h"
 #include "ui_matrixpushbuttonseditor.h"
 
+#include "propertyeditor/cachedicons.h"
 #include "propertyeditor/designerpropertymanager.h"
 
 #include <sorrel/SrMatrixButtons.h>
@@ -129,6 +130,9 @@ void MatrixEditor::on_tableWidget_itemChanged(QTableWidgetItem *item)
     m_changed = true;
     if (m_updatingBrowser)
         return;
+    // A cell that was opened and left empty gets no text where it had none.
+    if (item->text().isEmpty() && !item->data(ItemRole::Text).isValid())
+        return;
     auto text = item->data(ItemRole::Text).value<PropertySheetStringValue>();
     text.setValue(item->text());
     const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
@@ -163,7 +167,7 @@ void MatrixEditor::cacheReloaded()
 {
     AbstractItemEditor::cacheReloaded();
     const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
-    qdesigner_internal::reloadIconResources(iconCache(), m_ui->tableWidget);
+    qdesigner_internal::showCachedIcons(iconCache(), m_ui->tableWidget->model());
 }
 
 void MatrixEditor::setPropertyBrowserVisible(bool visible)

@@ -5,6 +5,8 @@
 
 #include <QtDesigner/QDesignerFormWindowCursorInterface>
 
+#include <QtWidgets/QUndoCommand>
+
 MatrixPushButtonsTaskMenu::MatrixPushButtonsTaskMenu(Vexa::AbstractMatrixOptions *matrix, QObject *parent)
     : ContentsTaskMenu(tr("Edit Buttons"), matrix, parent)
 {
@@ -12,24 +14,32 @@ MatrixPushButtonsTaskMenu::MatrixPushButtonsTaskMenu(Vexa::AbstractMatrixOptions
 
 void MatrixPushButtonsTaskMenu::editItems()
 {
-    QSize size;
-    const auto commandFor = [this, &size](MatrixButtonsDialog &dialog, Vexa::AbstractMatrixOptions *matrix,
+    const auto commandFor = [this](MatrixButtonsDialog &dialog, Vexa::AbstractMatrixOptions *matrix,
                                 const MatrixContents &oldContents) -> QUndoCommand * {
         const MatrixContents newContents = dialog.contents();
         if (newContents == oldContents)
             return nullptr;
-        size = QSize(newContents.columnCount, newContents.rowCount);
+        m_newSize = QSize(newContents.columnCount, newContents.rowCount);
         auto command = new ChangeMatrixBtnsCommand(formWindow()); // belongs to the form's undo stack
         command->init(matrix, oldContents, newContents);
         return command;
     };
-    if (!editContents(&MatrixButtonsDialog::fillContentsFromMatrixButtons, commandFor))
-        return;
+    editContents(&MatrixButtonsDialog::fillContentsFromMatrixButtons, commandFor);
+}
+
+void MatrixPushButtonsTaskMenu::push(QUndoCommand *command)
+{
+    const QPointer<QDesignerFormWindowInterface> form = formWindow();
+    form->beginCommand(command->text());
+    ContentsTaskMenu::push(command);
     // As properties, so that the property editor and the saved form show the size.
-    for (const auto &[name, value] : {std::pair("row", size.height()), std::pair("column", size.width())}) {
-        if (formWindow() && control())
-            formWindow()->cursor()->setWidgetProperty(control(), QLatin1String(name), QVariant(value));
+    for (const auto &[name, value] :
+        {std::pair("row", m_newSize.height()), std::pair("column", m_newSize.width())}) {
+        if (form && control())
+            form->cursor()->setWidgetProperty(control(), QLatin1String(name), QVariant(value));
     }
+    if (form)
+        form->endCommand();
 }
 
 MatrixPopButtonsTaskMenu::MatrixPopButtonsTaskMenu(Vexa::MatrixPopButtons *matrix, QObject *parent)

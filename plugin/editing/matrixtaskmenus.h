@@ -5,6 +5,8 @@
 #include <sorrel/SrMatrixButtons.h>
 #include <sorrel/SrMatrixPopButtons.h>
 
+#include <QtCore/QSize>
+
 /// The menu of the matrices of push buttons, radio buttons and check boxes.
 class MatrixPushButtonsTaskMenu final : public ContentsTaskMenu {
     Q_OBJECT
@@ -13,6 +15,9 @@ public:
 
 private:
     void editItems() override;
+    void push(QUndoCommand *command) override;
+
+    QSize m_newSize; ///< columns and rows of the dialog that was accepted last
 };
 
 class MatrixPopButtonsTaskMenu final : public ContentsTaskMenu {

@@ -4,6 +4,9 @@
 
 #include <QtWidgets/QWidget>
 
+#include <algorithm>
+#include <iterator>
+
 ExtraInfoExtension::ExtraInfoExtension(QWidget *widget, const ExtraInfoExtensionFactory *factory)
     : m_widget(widget)
     , m_factory(factory)
@@ -40,9 +43,20 @@ QObject *ExtraInfoExtensionFactory::extension(QObject *object, const QString &ii
         && iid == QLatin1String("org.qt-project.Qt.Designer.ExtraInfo.2"))
         return it->extension;
     QObject *extension = createExtension(object, iid, nullptr);
-    if (extension)
+    if (extension) {
         m_known.insert(object, {object, extension});
+        if (m_known.size() > m_mostKnown)
+            forgetDeadWidgets();
+    }
     return extension;
+}
+
+void ExtraInfoExtensionFactory::forgetDeadWidgets() const
+{
+    for (auto it = m_known.begin(); it != m_known.end();)
+        it = it->object ? std::next(it) : m_known.erase(it);
+    // Looking again only when there are twice as many costs nothing that counts.
+    m_mostKnown = std::max(1000, 2 * m_known.size());
 }
 
 QObject *ExtraInfoExtensionFactory::createExtension(QObject *object, const QString &iid, QObject *) const

@@ -50,5 +50,8 @@ private:
         QPointer<QObject> object;
         QPointer<QObject> extension;
     };
+    void forgetDeadWidgets() const;
+
     mutable QHash<const QObject *, Known> m_known;
+    mutable int m_mostKnown = 1000; ///< at more than this the dead ones are forgotten
 };

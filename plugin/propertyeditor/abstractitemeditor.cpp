@@ -1,4 +1,5 @@
 #include "abstractitemeditor.h"
+#include "cachedicons.h"
 #include "designereditorfactory.h"
 #include "designerpropertymanager.h"
 #include "hosttranslation.h"
@@ -172,9 +173,7 @@ void AbstractItemEditor::writeTwin(int role, const QVariant &value)
 {
     const int twin = displayRole(role);
     if (twin == Qt::DecorationRole) {
-        const bool resolvable = value.isValid() && m_iconCache;
-        const QIcon icon = resolvable ? m_iconCache->icon(value.value<PropertySheetIconValue>()) : QIcon();
-        setItemData(twin, icon);
+        setItemData(twin, cachedIcon(m_iconCache, value.value<PropertySheetIconValue>()));
     } else if (twin != -1) {
         setItemData(twin, value.value<PropertySheetStringValue>().value());
     }

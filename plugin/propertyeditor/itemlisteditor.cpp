@@ -1,4 +1,5 @@
 #include "itemlisteditor.h"
+#include "cachedicons.h"
 #include "ui_itemlisteditor.h"
 
 #include <private/iconloader_p.h>
@@ -107,6 +108,9 @@ void ItemListEditor::on_listWidget_itemChanged(QListWidgetItem *item)
 {
     if (m_updatingBrowser)
         return;
+    // An editor that was opened and left empty adds no text where there was none.
+    if (item->text().isEmpty() && !item->data(Qt::DisplayPropertyRole).isValid())
+        return;
     const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
     auto text = item->data(Qt::DisplayPropertyRole).value<PropertySheetStringValue>();
     text.setValue(item->text());
@@ -142,7 +146,7 @@ void ItemListEditor::cacheReloaded()
 {
     AbstractItemEditor::cacheReloaded();
     const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
-    reloadIconResources(iconCache(), ui->listWidget);
+    showCachedIcons(iconCache(), ui->listWidget->model());
 }
 
 void ItemListEditor::updateEditor()

@@ -1,4 +1,5 @@
 #include "pixmapeditor.h"
+#include "cachedicons.h"
 #include "designerpropertymanager.h"
 #include "iconthemedialog.h"
 #include "propertyrows.h"
@@ -87,8 +88,9 @@ void PixmapEditor::showValue()
     QPixmap preview;
     if (!themeText.isEmpty())
         preview = QIcon::fromTheme(theme()).pixmap(previewExtent, previewExtent);
-    else if (const DesignerPixmapCache *cache = m_manager ? m_manager->pixmapCache() : nullptr)
-        preview = QIcon(cache->pixmap(PropertySheetPixmapValue(path()))).pixmap(previewExtent, previewExtent);
+    else if (m_manager)
+        preview = QIcon(cachedPixmap(m_manager->pixmapCache(), PropertySheetPixmapValue(path())))
+                      .pixmap(previewExtent, previewExtent);
     m_previewLabel->setPixmap(preview);
     m_pathLabel->setText(themeText.isEmpty() ? QFileInfo(path()).fileName() : themeText);
     m_copyAction->setEnabled(!path().isEmpty() || !theme().isEmpty());

@@ -1,4 +1,5 @@
 #include "propertyrows.h"
+#include "cachedicons.h"
 #include "designerpropertymanager.h"
 #include "sizepolicynames.h"
 
@@ -60,8 +61,7 @@ QIcon checkMark(bool checked)
 
 QIcon resolved(const DesignerPropertyManager *manager, const PropertySheetIconValue &value)
 {
-    const DesignerIconCache *cache = manager->iconCache();
-    return cache ? cache->icon(value) : QIcon();
+    return cachedIcon(manager->iconCache(), value);
 }
 
 QString fileName(const PropertySheetPixmapValue &pixmap) { return QFileInfo(pixmap.path()).fileName(); }
@@ -137,11 +137,7 @@ PixmapRow::PixmapRow(DesignerPropertyManager *manager, const QString &name)
 
 QString PixmapRow::valueText() const { return fileName(m_value); }
 
-QIcon PixmapRow::valueIcon() const
-{
-    const DesignerPixmapCache *cache = manager()->pixmapCache();
-    return cache ? QIcon(cache->pixmap(m_value)) : QIcon();
-}
+QIcon PixmapRow::valueIcon() const { return QIcon(cachedPixmap(manager()->pixmapCache(), m_value)); }
 
 QString PixmapRow::valueToolTip() const { return nativePath(m_value); }
 

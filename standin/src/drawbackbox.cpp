@@ -4,6 +4,7 @@
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QVBoxLayout>
 
 namespace Vexa {
@@ -49,6 +50,12 @@ void DrawbackBox::setWidget(QWidget *page)
 
 QString DrawbackBox::title() const { return m_page ? m_page->windowTitle() : QString(); }
 
+QString DrawbackBox::shownTitle() const
+{
+    const auto *group = qobject_cast<DrawbackBoxGroup *>(parentWidget());
+    return group && m_title.isEmpty() ? group->pageTitle(group->indexOf(this)) : m_title;
+}
+
 void DrawbackBox::setExpanded(bool expanded)
 {
     if (expanded == m_expanded)
@@ -84,6 +91,16 @@ bool DrawbackBox::eventFilter(QObject *watched, QEvent *event)
         m_title = title();
         update();
         emit titleChanged(m_title);
+    }
+    if (watched == m_titleEditor && event->type() == QEvent::FocusOut) {
+        if (static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason)
+            endEditing(true);
+    } else if (watched == m_titleEditor && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
+            endEditing(key != Qt::Key_Escape);
+            return true;
+        }
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -122,9 +139,48 @@ void DrawbackBox::mousePressEvent(QMouseEvent *event)
         QWidget::mousePressEvent(event);
 }
 
+void DrawbackBox::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && event->pos().y() < headerHeight())
+        editTitle();
+    else
+        QWidget::mouseDoubleClickEvent(event);
+}
+
+void DrawbackBox::editTitle()
+{
+    if (!m_page || m_titleEditor)
+        return;
+    m_titleEditor = new QLineEdit(shownTitle(), this);
+    m_titleEditor->setObjectName(QStringLiteral("__qt__passive_titleEditor")); // as the box itself
+    m_titleEditor->setGeometry(titleRect(QRect(0, 0, width(), headerHeight())));
+    m_titleEditor->installEventFilter(this);
+    m_titleEditor->selectAll();
+    m_titleEditor->show();
+    m_titleEditor->setFocus();
+}
+
+void DrawbackBox::endEditing(bool accepted)
+{
+    if (!m_titleEditor)
+        return;
+    const QString text = m_titleEditor->text();
+    m_titleEditor->removeEventFilter(this);
+    m_titleEditor->hide();
+    m_titleEditor->deleteLater();
+    m_titleEditor.clear();
+    if (!accepted || !m_page || text == shownTitle())
+        return;
+    const QString before = m_title;
+    m_page->setWindowTitle(text);
+    emit titleEdited(before);
+}
+
 void DrawbackBox::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (event->key() == Qt::Key_F2)
+        editTitle();
+    else if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         activateHeader();
     else
         QWidget::keyPressEvent(event);
@@ -137,7 +193,7 @@ void DrawbackBox::paintEvent(QPaintEvent *)
         painter.setPen(palette().color(QPalette::Mid));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
-    paintTitleBar(&painter, QRect(0, 0, width(), headerHeight()), this, m_title, m_expanded);
+    paintTitleBar(&painter, QRect(0, 0, width(), headerHeight()), this, shownTitle(), m_expanded);
 }
 
 } // namespace Vexa

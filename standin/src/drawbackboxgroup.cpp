@@ -78,15 +78,25 @@ QWidget *DrawbackBoxGroup::widget(int index)
 
 DrawbackBox *DrawbackBoxGroup::box(int index) const { return m_boxes.value(index); }
 
+int DrawbackBoxGroup::indexOf(const DrawbackBox *box) const
+{
+    const auto it = std::find(m_boxes.cbegin(), m_boxes.cend(), box);
+    return it == m_boxes.cend() ? -1 : int(it - m_boxes.cbegin());
+}
+
 QString DrawbackBoxGroup::pageTitle(int index) const
 {
     const DrawbackBox *at = box(index);
-    return at ? at->title() : QString();
+    if (!at)
+        return QString();
+    const QString title = at->title();
+    return title.isEmpty() ? tr("Page %1").arg(index + 1) : title;
 }
 
 void DrawbackBoxGroup::setPageTitle(const QString &title)
 {
-    if (QWidget *page = widget(m_current))
+    QWidget *page = widget(m_current);
+    if (page && title != pageTitle(m_current))
         page->setWindowTitle(title);
 }
 
@@ -189,6 +199,8 @@ void DrawbackBoxGroup::adopt(DrawbackBox *box)
         if (box == this->box(m_current))
             emit pageTitleChanged(title);
     });
+    connect(box, &DrawbackBox::titleEdited, this,
+        [this, box](const QString &before) { emit pageTitleEdited(m_boxes.indexOf(box), before); });
     box->show();
 }
 
@@ -259,6 +271,8 @@ void DrawbackBoxGroup::placeBoxes()
     for (int i = 0; i < m_boxes.size(); ++i) {
         const int boxHeight = i == m_current ? header + pageHeight : header;
         m_boxes.at(i)->setGeometry(0, top, width() - barWidth, boxHeight);
+        if (m_boxes.at(i)->title().isEmpty())
+            m_boxes.at(i)->update(); // it shows its number
         top += boxHeight + boxSpacing;
     }
 }

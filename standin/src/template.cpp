@@ -8,7 +8,7 @@ namespace Vexa {
 namespace {
 // Captions share one width, so that the fields of the rows of a panel stand in one column.
 constexpr int captionWidthInCharacters = 12;
-}
+} // namespace
 
 TemplateWidget::TemplateWidget(const QString &title, QWidget *parent)
     : QWidget(parent)

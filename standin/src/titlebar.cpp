@@ -9,6 +9,8 @@ namespace Vexa {
 
 int titleBarHeight(const QWidget *panel) { return panel->fontMetrics().height() + 8; }
 
+QRect titleRect(const QRect &bar) { return bar.adjusted(20, 0, -6, 0); }
+
 void paintTitleBar(QPainter *painter, const QRect &bar, const QWidget *panel, const QString &title, bool open)
 {
     const QPalette &palette = panel->palette();
@@ -31,7 +33,7 @@ void paintTitleBar(QPainter *painter, const QRect &bar, const QWidget *panel, co
     painter->setFont(font);
     painter->setPen(
         palette.color(panel->isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
-    const QRect textRect = bar.adjusted(20, 0, -6, 0);
+    const QRect textRect = titleRect(bar);
     painter->drawText(textRect, Qt::AlignVCenter | Qt::TextSingleLine,
         QFontMetrics(font).elidedText(title, Qt::ElideRight, textRect.width()));
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QRect>
 
 class QPainter;
-class QRect;
 class QString;
 class QWidget;
 
@@ -11,6 +10,8 @@ namespace Vexa {
 
 /// The height of the title bar of a collapsible panel with the font of `panel`.
 int titleBarHeight(const QWidget *panel);
+/// The part of the bar that the title takes.
+QRect titleRect(const QRect &bar);
 /// Paints the title bar: an arrow that tells whether the panel is open, and the title in bold.
 void paintTitleBar(
     QPainter *painter, const QRect &bar, const QWidget *panel, const QString &title, bool open);

@@ -111,6 +111,15 @@ protected:
         QTest::mouseClick(dialog->findChild<QAbstractButton *>(QLatin1String(button)), Qt::LeftButton);
     }
 
+    /// Ok, in whichever way the dialog has it.
+    static void accept(const QDialog *dialog)
+    {
+        if (dialog->findChild<QDialogButtonBox *>())
+            press(dialog, QDialogButtonBox::Ok);
+        else
+            press(dialog, "okButton");
+    }
+
     QString imageFile() const
     {
         QString path = m_dir.filePath(QStringLiteral("icon.png"));

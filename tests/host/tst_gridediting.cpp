@@ -176,11 +176,9 @@ private slots:
 
         QCOMPARE(dump(matrix),
             QStringLiteral("3x2 a,in place,,,\u05e9 \"1\",|:/i,,,,%1,|:/i,,,,tip,|:/i,,,,go,").arg(image));
-        QCOMPARE(history->count(), before.index + (kind.sizeByProperties ? 3 : 1));
+        QCOMPARE(history->count(), before.index + 1);
         QCOMPARE(history->text(before.index), QLatin1String(kind.undoText));
         if (kind.sizeByProperties) {
-            QVERIFY(history->text(before.index + 1).contains(QLatin1String("'row'")));
-            QVERIFY(history->text(before.index + 2).contains(QLatin1String("'column'")));
             const QDesignerPropertySheetExtension *sheet = m_host->propertySheet(matrix);
             QVERIFY(sheet->isChanged(sheet->indexOf(QStringLiteral("row"))));
         }
@@ -259,7 +257,7 @@ private slots:
         }));
         QCOMPARE(dump(matrix), QStringLiteral("2x2 a,,b,|,,,|,,,|,,,"));
         form->commandHistory()->undo();
-        QCOMPARE(dump(matrix), QStringLiteral("3x1 a,b,c|,,|,,|,,"));
+        QCOMPARE(dump(matrix), QStringLiteral("3x1 a,b,c|||"));
     }
 
     void typingTheSameTextAgainIsNoChange()

@@ -149,7 +149,7 @@ private slots:
         DrawbackBox *const c = m_group->box(2);
         const std::unique_ptr<DrawbackBox> b(m_group->box(1));
         QCOMPARE(m_group->replaceBoxes({c, nullptr, fresh, c, a, empty}), 4);
-        QCOMPARE(titles(*m_group), QStringLiteral("cxa"));
+        QCOMPARE(titles(*m_group), QStringLiteral("cxaPage 4"));
         QVERIFY(m_group->widget(3));
         // The current page moved from the third to the first place.
         QCOMPARE(m_group->currentIndex(), 0);

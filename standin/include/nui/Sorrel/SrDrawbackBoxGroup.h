@@ -7,6 +7,7 @@
 #include <QtCore/QVector>
 #include <QtWidgets/QWidget>
 
+class QLineEdit;
 class QScrollBar;
 class QVBoxLayout;
 
@@ -28,6 +29,8 @@ public:
     void setWidget(QWidget *page);
 
     QString title() const;
+    /// What the title bar shows: a page without a title has its number in the group.
+    QString shownTitle() const;
     bool isExpanded() const { return m_expanded; }
     void setExpanded(bool expanded);
 
@@ -39,6 +42,8 @@ signals:
     /// The title bar was clicked, or activated by the keyboard. A box outside a group then draws itself back
     /// or out.
     void headerActivated();
+    /// The user has given the page another title in the title bar. \a before is the one until then.
+    void titleEdited(const QString &before);
     void expandedChanged(bool expanded);
     void titleChanged(const QString &title);
     /// The page was deleted or moved away by somebody else.
@@ -49,13 +54,17 @@ protected:
     void childEvent(QChildEvent *event) override;
     void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     void activateHeader();
+    void editTitle();
+    void endEditing(bool accepted);
 
     QVBoxLayout *const m_layout;
+    QPointer<QLineEdit> m_titleEditor;
     QWidget *m_page = nullptr;
     QString m_title;
     bool m_expanded = true;
@@ -83,9 +92,11 @@ public:
     /// Null for an index without a page.
     QWidget *widget(int index);
     DrawbackBox *box(int index) const;
-    /// The window title of the page.
+    /// -1 for a box that is not in the group.
+    int indexOf(const DrawbackBox *box) const;
+    /// The window title of the page; "Page 1" and so on for a page that has none.
     QString pageTitle(int index) const;
-    /// Sets the title of the current page.
+    /// Sets the title of the current page, unless pageTitle() gives it as it is.
     void setPageTitle(const QString &title);
 
     /// Null and pages that the group has already are ignored.
@@ -105,6 +116,8 @@ signals:
     void currentIndexChanged(int index);
     /// The title of the current page changed.
     void pageTitleChanged(const QString &title);
+    /// The user has given a page another title in its title bar. \a before is the one until then.
+    void pageTitleEdited(int index, const QString &before);
 
 protected:
     bool event(QEvent *event) override;

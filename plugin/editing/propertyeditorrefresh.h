@@ -1,0 +1,9 @@
+#pragma once
+
+class QDesignerFormEditorInterface;
+class QWidget;
+
+/// Has the property editor read its object again if that is \a control or something in it: it notices only
+/// what is changed through the property sheet, and an old value in it would be written back with the next
+/// edit of its row. Does nothing without a \a core.
+void refreshPropertyEditor(QDesignerFormEditorInterface *core, const QWidget *control);
