@@ -15,6 +15,8 @@
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QUndoStack>
 
+#include <algorithm>
+
 QList<QWidget *> Monkey::contentsControls() const
 {
     QList<QWidget *> controls;
@@ -28,7 +30,10 @@ QList<QWidget *> Monkey::contentsControls() const
 
 void Monkey::editContents(Random &random)
 {
-    const QList<QWidget *> controls = contentsControls();
+    QList<QWidget *> controls = contentsControls();
+    // One on a page that is not shown cannot stay selected.
+    const auto isHidden = [](const QWidget *control) { return !control->isVisible(); };
+    controls.erase(std::remove_if(controls.begin(), controls.end(), isHidden), controls.end());
     if (controls.isEmpty())
         return;
     const QPointer<QWidget> control = random.pick(controls);

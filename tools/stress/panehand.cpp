@@ -14,14 +14,14 @@
 
 namespace {
 
-/// Of all rows and their sub rows.
-QVector<QModelIndex> valueCells(const QAbstractItemModel *model)
+/// Of all rows, with or without their sub rows.
+QVector<QModelIndex> valueCells(const QAbstractItemModel *model, bool subRows)
 {
     QVector<QModelIndex> cells;
     for (int row = 0; row < model->rowCount(); ++row) {
         const QModelIndex name = model->index(row, 0);
         cells += name.sibling(row, 1);
-        for (int sub = 0; sub < model->rowCount(name); ++sub)
+        for (int sub = 0; subRows && sub < model->rowCount(name); ++sub)
             cells += model->index(sub, 1, name);
     }
     return cells;
@@ -68,7 +68,7 @@ Editor::Editor(QWidget *editor)
 
 void usePane(QTreeView *pane, Random &random, Choosers &choosers, ChooserCounts *counts)
 {
-    const QVector<QModelIndex> values = valueCells(pane->model());
+    const QVector<QModelIndex> values = valueCells(pane->model(), random.oneIn(2));
     if (values.isEmpty())
         return;
     const QModelIndex value = random.pick(values);
