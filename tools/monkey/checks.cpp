@@ -25,17 +25,17 @@ void Monkey::checkStep(int indexBefore, int countBefore, bool walked)
 {
     const QString now = text();
     const int index = history()->index();
-    if (!walked && index == indexBefore && history()->count() == countBefore) {
-        // Nothing was pushed, or it joined the step before.
-        m_texts.insert(index, now);
-        return;
-    }
-    if (!walked) {
+    if (!walked && (index != indexBefore || history()->count() != countBefore)) {
         // Everything above is a new future.
         while (!m_texts.isEmpty() && m_texts.lastKey() > indexBefore)
             m_texts.erase(std::prev(m_texts.end()));
         while (!m_edits.isEmpty() && m_edits.lastKey() >= indexBefore)
             m_edits.erase(std::prev(m_edits.end()));
+    }
+    if (!walked && index == indexBefore) {
+        // Nothing was pushed, or it joined the step before.
+        m_texts.insert(index, now);
+        return;
     }
     if (m_newEdit)
         m_edits.insert(indexBefore, *m_newEdit);

@@ -58,7 +58,7 @@ void Monkey::editContents(Random &random)
                             .arg(control->objectName(), textsIn(dialog).join(QLatin1Char('|')),
                                 textsBefore.join(QLatin1Char('|'))));
             DialogHand hand(random, m_choosers);
-            hand.use(dialog, random.below(10));
+            hand.use(dialog, random.below(12));
             counts.choosers += hand.chooserCounts();
             ok = !random.oneIn(4);
             accepted = textsIn(dialog);

@@ -50,7 +50,7 @@ const QVector<Monkey::Row> &Monkey::rows()
         {"layOut", 6, &Monkey::layOut},
         {"usePages", 7, &Monkey::usePages},
         {"showPage", 5, &Monkey::showPage},
-        {"editContents", 18, &Monkey::editContents},
+        {"editContents", 24, &Monkey::editContents},
         {"editAndLose", 1, &Monkey::editAndLose},
         {"changeProperty", 8, &Monkey::changeProperty},
         {"editLists", 12, &Monkey::editLists},

@@ -24,9 +24,10 @@ void DialogHand::use(QDialog *dialog, int operations)
 void DialogHand::once(QDialog *dialog)
 {
     auto *pane = dialog->findChild<QTreeView *>();
-    if (pane && pane->isVisible() && m_random.oneIn(2))
+    const bool paneShown = pane && pane->isVisible();
+    if (paneShown && m_random.oneIn(2))
         usePane(pane, m_random, m_choosers, &m_chooserCounts);
-    else if (m_random.oneIn(4))
+    else if (m_random.oneIn(paneShown ? 12 : 2))
         press(dialog, "showPropertiesButton");
     else if (dialog->findChild<QTableWidget *>())
         useTable(dialog);

@@ -78,10 +78,10 @@ void usePane(QTreeView *pane, Random &random, Choosers &choosers, ChooserCounts 
     if (!widget)
         return;
     const Editor editor(widget);
-    if (editor.reset && random.oneIn(3)) {
+    if (editor.reset && random.oneIn(4)) {
         if (editor.reset->isEnabled())
             editor.reset->click();
-    } else if (!editor.choices.isEmpty() && random.oneIn(2)) {
+    } else if (!editor.choices.isEmpty() && !random.oneIn(3)) {
         choosers.run(random.pick(editor.choices), random, counts);
     } else if (editor.paste) {
         static const QString paths[] = {QStringLiteral(":/monkey/icon.png"),
