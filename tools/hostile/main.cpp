@@ -86,6 +86,7 @@ void edit(Session &session, FormWindow *form, QWidget *control, Random &random)
     if (!menu || !menu->preferredEditAction())
         return;
     EditCounts &counts = session.tally.of(control);
+    const QString dialogOwner = QLatin1String(control->metaObject()->className());
     const int indexBefore = form->commandHistory()->index();
     withDialogs([menu] { menu->preferredEditAction()->trigger(); },
         [&](QDialog *dialog) {
@@ -95,7 +96,8 @@ void edit(Session &session, FormWindow *form, QWidget *control, Random &random)
             counts.choosers += hand.chooserCounts();
             const bool ok = !random.oneIn(6);
             counts.cancelled += !ok;
-            closeDialog(dialog, ok);
+            if (!closeDialog(dialog, ok))
+                endWithFinding(QStringLiteral("the dialog of %1 does not close").arg(dialogOwner));
         });
     counts.changed += form->commandHistory()->index() != indexBefore;
 }
