@@ -6,6 +6,7 @@
 #include <QtDesigner/QDesignerFormWindowInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerPropertyEditorInterface>
+#include <QtDesigner/QDesignerWidgetDataBaseInterface>
 #include <QtDesigner/QExtensionManager>
 
 #include <private/qtresourcemodel_p.h>
@@ -59,12 +60,24 @@ QIcon ControlPlugin::icon() const { return QIcon(); }
 
 bool ControlPlugin::isContainer() const { return m_row.container; }
 
+QWidget *ControlPlugin::createWidget(QWidget *parent)
+{
+    warnOfSecondFormEditor(parent);
+    watchDesigner();
+    QWidget *control = makeControl(parent);
+    if (m_baseClassUnnamed)
+        nameBaseClass(control->metaObject());
+    return control;
+}
+
 bool ControlPlugin::isInitialized() const { return m_initializedWith; }
 
 void ControlPlugin::initialize(QDesignerFormEditorInterface *core)
 {
     if (isInitialized())
         return;
+    m_baseClassUnnamed = m_wasInitialized;
+    m_wasInitialized = core != nullptr;
     keepCore(core);
     if (QExtensionManager *manager = core ? core->extensionManager() : nullptr)
         registerExtensions(manager, core);
@@ -99,6 +112,24 @@ void ControlPlugin::warnOfSecondFormEditor(QWidget *parent) const
     core->setProperty(warned, true);
     qWarning("SorrelPlugin: another form editor of this process has the controls; in this one their contents "
              "are neither edited nor saved.");
+}
+
+void ControlPlugin::nameBaseClass(const QMetaObject *control)
+{
+    const auto *core = qobject_cast<QDesignerFormEditorInterface *>(m_initializedWith.data());
+    QDesignerWidgetDataBaseInterface *dataBase = core ? core->widgetDataBase() : nullptr;
+    const int own = dataBase ? dataBase->indexOfClassName(name()) : -1;
+    if (own < 0)
+        return;
+    m_baseClassUnnamed = false;
+    for (const QMetaObject *base = control->superClass(); base; base = base->superClass()) {
+        const QString className = QLatin1String(base->className());
+        if (dataBase->indexOfClassName(className) < 0)
+            continue;
+        if (dataBase->item(own)->extends().isEmpty())
+            dataBase->item(own)->setExtends(className);
+        return;
+    }
 }
 
 void CoreKeepingControlPlugin::keepCore(QDesignerFormEditorInterface *core) { m_core = core; }

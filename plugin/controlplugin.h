@@ -31,6 +31,8 @@ public:
     QString includeFile() const override;
     QIcon icon() const override;
     bool isContainer() const override;
+    /// The control belongs to \a parent, or to the caller where there is none.
+    QWidget *createWidget(QWidget *parent) override;
     /// True for as long as the form editor lives that it was initialized with.
     bool isInitialized() const override;
     /// Registers the control's Designer extensions, the first time only. A null core registers nothing. Once
@@ -45,15 +47,22 @@ protected:
     virtual void keepCore(QDesignerFormEditorInterface *core);
     /// Called before each widget is made.
     virtual void watchDesigner();
-    /// Says so, once per form editor, where \a parent is on a form of one that came while another one lived.
-    /// Its extensions would have to be registered by initialize(), which is not called then.
-    void warnOfSecondFormEditor(QWidget *parent) const;
+    virtual QWidget *makeControl(QWidget *parent) = 0;
 
     const ControlRow &m_row;
 
 private:
+    /// Says so, once per form editor, where \a parent is on a form of one that came while another one lived.
+    /// Its extensions would have to be registered by initialize(), which is not called then.
+    void warnOfSecondFormEditor(QWidget *parent) const;
+    /// Names the base class of the control in the form editor's data base, from where it comes into saved
+    /// forms. The form editor does so for the first one in a process only.
+    void nameBaseClass(const QMetaObject *control);
+
     /// The form editor, or the descriptor itself where it was initialized with none.
     QPointer<QObject> m_initializedWith;
+    bool m_wasInitialized = false; ///< with a form editor, in the life of the process
+    bool m_baseClassUnnamed = false;
 };
 
 /// A descriptor that keeps the form editor.
@@ -133,11 +142,6 @@ public:
     {
     }
 
-    /// The control belongs to \a parent, or to the caller where there is none.
-    QWidget *createWidget(QWidget *parent) override
-    {
-        this->warnOfSecondFormEditor(parent);
-        this->watchDesigner();
-        return new Control(parent);
-    }
+protected:
+    QWidget *makeControl(QWidget *parent) override { return new Control(parent); }
 };

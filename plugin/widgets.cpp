@@ -13,14 +13,13 @@
 
 #include <QtGui/QGuiApplication>
 
-QWidget *ColorPanelPlugin::createWidget(QWidget *parent)
+QWidget *ColorPanelPlugin::makeControl(QWidget *parent)
 {
     return new Vexa::ColorPanel(parent, Qt::WindowFlags());
 }
 
-QWidget *DrawbackBoxGroupPlugin::createWidget(QWidget *parent)
+QWidget *DrawbackBoxGroupPlugin::makeControl(QWidget *parent)
 {
-    warnOfSecondFormEditor(parent);
     auto *group = new Vexa::DrawbackBoxGroup(parent);
     connect(group, SIGNAL(currentIndexChanged(int)), this, SLOT(currentIndexChanged(int)));
     connect(group, SIGNAL(pageTitleChanged(QString)), this, SLOT(pageTitleChanged(QString)));

@@ -54,7 +54,9 @@ class ColorPanelPlugin final : public Descriptor<Vexa::ColorPanel, rowOf("Vexa::
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
-    QWidget *createWidget(QWidget *parent) override;
+
+protected:
+    QWidget *makeControl(QWidget *parent) override;
 };
 
 class ColorPickerPlugin final : public Descriptor<Vexa::ColorPicker, rowOf("Vexa::ColorPicker")> {
@@ -75,9 +77,9 @@ class DrawbackBoxGroupPlugin final : public Descriptor<Vexa::DrawbackBoxGroup,
     Q_OBJECT
 public:
     using Descriptor::Descriptor;
-    QWidget *createWidget(QWidget *parent) override;
 
 protected:
+    QWidget *makeControl(QWidget *parent) override;
     void registerExtensions(QExtensionManager *manager, QDesignerFormEditorInterface *core) override;
 
 private slots:

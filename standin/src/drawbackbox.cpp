@@ -95,10 +95,14 @@ bool DrawbackBox::eventFilter(QObject *watched, QEvent *event)
     if (watched == m_titleEditor && event->type() == QEvent::FocusOut) {
         if (static_cast<QFocusEvent *>(event)->reason() != Qt::PopupFocusReason)
             endEditing(true);
-    } else if (watched == m_titleEditor && event->type() == QEvent::KeyPress) {
+    } else if (watched == m_titleEditor
+        && (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride)) {
+        // A form editor takes the Escape key to itself, but not the question who wants it.
         const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
-            endEditing(key != Qt::Key_Escape);
+        const bool accepted = key == Qt::Key_Return || key == Qt::Key_Enter;
+        event->setAccepted(true);
+        if (key == Qt::Key_Escape || (accepted && event->type() == QEvent::KeyPress)) {
+            endEditing(accepted);
             return true;
         }
     }
@@ -151,8 +155,9 @@ void DrawbackBox::editTitle()
 {
     if (!m_page || m_titleEditor)
         return;
-    m_titleEditor = new QLineEdit(shownTitle(), this);
+    m_titleEditor = new QLineEdit(shownTitle());
     m_titleEditor->setObjectName(QStringLiteral("__qt__passive_titleEditor")); // as the box itself
+    m_titleEditor->setParent(this);
     m_titleEditor->setGeometry(titleRect(QRect(0, 0, width(), headerHeight())));
     m_titleEditor->installEventFilter(this);
     m_titleEditor->selectAll();

@@ -5,9 +5,14 @@
 
 #include <QtDesigner/QDesignerContainerExtension>
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerPropertyEditorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QExtensionManager>
 
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QTreeView>
 #include <QtWidgets/QUndoStack>
 
 /// Pages of a drawback box group, as Designer's own menu handles them.
@@ -93,6 +98,98 @@ private slots:
         container(m_group)->setCurrentIndex(0);
         QCOMPARE(order,
             QStringList{QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged 0 then 0")});
+    }
+
+    /// With something selected on the page before, with nothing, and with something beside the group.
+    void clickOnATitleBarSelectsTheGroup_data()
+    {
+        QTest::addColumn<QString>("selected");
+        for (const char *selected : {"on the page", "form", "beside"})
+            QTest::newRow(selected) << QString::fromLatin1(selected);
+    }
+    void clickOnATitleBarSelectsTheGroup()
+    {
+        QFETCH(QString, selected);
+        m_group->setGeometry(10, 10, 250, 300);
+        QVERIFY(trigger(m_form, m_group, "Insert Page After Current Page"));
+        QWidget *page = m_group->widget(1);
+        QTRY_VERIFY(page->isVisible() && page->height() > 20);
+        QWidget *onPage = drop(m_form, "CmdButton", page->mapTo(m_form, QPoint(10, 10)));
+        QWidget *beside = drop(m_form, "Line", {400, 300});
+        QWidget *target = selected == QLatin1String("form") ? m_form->mainContainer()
+            : selected == QLatin1String("beside")           ? beside
+                                                            : onPage;
+        DesignerHost::select(m_form, onPage);
+        m_host->core()->formWindowManager()->actionCopy()->trigger();
+        DesignerHost::select(m_form, target);
+        QTest::mouseClick(m_group->box(0), Qt::LeftButton, {}, {30, 5});
+        QCOMPARE(m_group->currentIndex(), 0);
+        QCOMPARE(m_form->cursor()->selectedWidgetCount(), 1);
+        QCOMPARE(m_form->cursor()->selectedWidget(0), m_group);
+        m_form->paste(qdesigner_internal::FormWindowBase::PasteAll);
+        QCOMPARE(m_form->cursor()->current()->parentWidget(), m_group->widget(0));
+    }
+
+    void undoOfAPageSwitchLeavesWhatIsSelectedElsewhere()
+    {
+        QVERIFY(trigger(m_form, m_group, "Insert Page After Current Page"));
+        QWidget *line = drop(m_form, "Line", {400, 300});
+        m_form->cursor()->setWidgetProperty(m_group, QStringLiteral("currentIndex"), 0);
+        DesignerHost::select(m_form, line);
+        m_form->commandHistory()->undo();
+        QCOMPARE(m_group->currentIndex(), 1);
+        QCOMPARE(m_form->cursor()->selectedWidget(0), line);
+    }
+
+    void titleEditedInItsBarIsOneUndoStep()
+    {
+        m_group->setGeometry(10, 10, 250, 300);
+        QVERIFY(trigger(m_form, m_group, "Insert Page After Current Page"));
+        const QString before = saved();
+        QVERIFY(!before.contains(QLatin1String("windowTitle")));
+        Vexa::DrawbackBox *box = m_group->box(1);
+        QCOMPARE(box->shownTitle(), QStringLiteral("Page 2"));
+        for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return}) {
+            QTest::mouseDClick(box, Qt::LeftButton, {}, {30, 5});
+            auto *editor = box->findChild<QLineEdit *>();
+            QVERIFY(editor && editor->isVisible());
+            QCOMPARE(editor->selectedText(), QStringLiteral("Page 2"));
+            QTest::keyClicks(editor, QStringLiteral("Holes"));
+            QTest::keyClick(editor, end);
+            QTRY_VERIFY(!box->findChild<QLineEdit *>());
+            QCOMPARE(box->shownTitle(), QLatin1String(end == Qt::Key_Return ? "Holes" : "Page 2"));
+        }
+        QUndoStack *history = m_form->commandHistory();
+        QCOMPARE(history->index(), 3); // drop, page, title
+        const QString after = saved();
+        QVERIFY(after.contains(QLatin1String("<string>Holes</string>")));
+        for (int round = 0; round < 2; ++round) {
+            history->undo();
+            compareTexts(saved(), before);
+            history->redo();
+            compareTexts(saved(), after);
+        }
+    }
+
+    void propertyEditorShowsThePageThatInsertingMadeCurrent()
+    {
+        DesignerHost::select(m_form, m_group);
+        auto *editor = m_host->core()->propertyEditor();
+        QTRY_COMPARE(editor->object(), m_group);
+        const auto shown = [editor] {
+            const QAbstractItemModel *model = editor->findChild<QTreeView *>()->model();
+            const QModelIndex name
+                = model
+                      ->match(model->index(0, 0), Qt::DisplayRole, QStringLiteral("currentIndex"), 1,
+                          Qt::MatchExactly | Qt::MatchRecursive)
+                      .value(0);
+            return name.sibling(name.row(), 1).data().toString();
+        };
+        QCOMPARE(shown(), QStringLiteral("0"));
+        QVERIFY(trigger(m_form, m_group, "Insert Page After Current Page"));
+        QCOMPARE(shown(), QStringLiteral("1"));
+        m_form->commandHistory()->undo();
+        QCOMPARE(shown(), QStringLiteral("0"));
     }
 
     void renamedPageIsMarkedAsChanged()

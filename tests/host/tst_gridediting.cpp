@@ -6,6 +6,8 @@
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTableWidget>
 
+#include <sys/stat.h>
+
 namespace {
 
 struct Kind {
@@ -258,6 +260,53 @@ private slots:
         QCOMPARE(dump(matrix), QStringLiteral("2x2 a,,b,|,,,|,,,|,,,"));
         form->commandHistory()->undo();
         QCOMPARE(dump(matrix), QStringLiteral("3x1 a,b,c|||"));
+    }
+
+    void typedNumberOfRowsAppliesAsAWhole()
+    {
+        FormWindow *form = newForm();
+        QWidget *matrix = drop(form, kinds[0], 10, 1, "a,b,c,d,e,f,g,h,i,j");
+        QVERIFY(edit(form, matrix, [](QDialog *dialog) {
+            QSpinBox *rows = spin(dialog, "rowCounts");
+            rows->selectAll();
+            QTest::keyClicks(rows, QStringLiteral("12"));
+            QCOMPARE(table(dialog)->rowCount(), 10);
+            QTest::keyClick(rows, Qt::Key_Return); // the default button's key, too
+            QCOMPARE(texts(dialog), QStringLiteral("a/b/c/d/e/f/g/h/i/j//"));
+        }));
+    }
+
+    void cellOpenedAndLeftEmptyIsNoChange()
+    {
+        for (const Kind &kind : kinds) {
+            FormWindow *form = newForm();
+            QWidget *matrix = drop(form, kind, 1, 2, "a");
+            const int steps = form->commandHistory()->count();
+            QVERIFY(edit(form, matrix, [](QDialog *dialog) {
+                typeIntoCell(dialog, 0, 1, QString());
+                press(dialog, "okButton");
+            }));
+            QCOMPARE(form->commandHistory()->count(), steps);
+            close(form);
+        }
+    }
+
+    void pipeAsAnIconIsNotOpened()
+    {
+        QTemporaryDir folder;
+        const QString pipe = folder.filePath(QStringLiteral("pipe.png"));
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        FormWindow *form = newForm();
+        QWidget *matrix = drop(form, kinds[0], 1, 1, "a");
+        matrix->setProperty("iconList", QStringList{pipe});
+        QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
+            press(dialog, "showPropertiesButton");
+            PaneDriver pane(dialog);
+            QCOMPARE(pane.valueText(QStringLiteral("icon")), QStringLiteral("pipe.png"));
+            QVERIFY(pane.open(QStringLiteral("icon/Normal Off")));
+            press(dialog, "okButton");
+        }));
+        QCOMPARE(matrix->property("iconList").toStringList(), QStringList{pipe});
     }
 
     void typingTheSameTextAgainIsNoChange()

@@ -1,0 +1,57 @@
+#include "designerhost.h"
+#include "quiettest.h"
+
+#include <private/formwindowbase_p.h>
+
+#include <QtCore/QFile>
+
+namespace {
+
+constexpr char example[] = EXAMPLES "/featurepanel.ui";
+
+QString exampleText()
+{
+    QFile file(QString::fromLatin1(example));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString reopened(DesignerHost &host)
+{
+    const auto *form = host.openForm(exampleText(), QString::fromLatin1(example));
+    return form ? DesignerHost::save(form) : QString();
+}
+
+} // namespace
+
+/// More than one form editor in a process, one after the other and side by side.
+class TestFormEditors : public QuietTest {
+    Q_OBJECT
+
+private slots:
+    void eachOneAfterTheOtherServesTheControls()
+    {
+        for (int i = 0; i < 3; ++i) {
+            DesignerHost host({QStringLiteral(PLUGIN_ROOT)});
+            QCOMPARE(reopened(host), exampleText());
+            auto *form = host.newForm();
+            QWidget *options = host.drop(form, QStringLiteral("Vexa::OptionButtons"), {40, 40});
+            QVERIFY(options && host.menuAction(form, options, QStringLiteral("Edit Buttons")));
+        }
+    }
+
+    void secondOneBesideTheFirstSaysWhatItLacks()
+    {
+        DesignerHost first({QStringLiteral(PLUGIN_ROOT)});
+        {
+            DesignerHost second({QStringLiteral(PLUGIN_ROOT)});
+            QVERIFY(reopened(second) != exampleText());
+        }
+        const QStringList lines = m_log->takeUnexpected();
+        QCOMPARE(lines.size(), 1);
+        QVERIFY(lines.first().startsWith(QLatin1String("SorrelPlugin: another form editor")));
+        QCOMPARE(reopened(first), exampleText());
+    }
+};
+
+QTEST_MAIN(TestFormEditors)
+#include "tst_formeditors.moc"
