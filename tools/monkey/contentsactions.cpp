@@ -43,25 +43,24 @@ void Monkey::editContents(Random &random)
     if (!menu || !menu->preferredEditAction())
         return finding(QStringLiteral("no task menu for ") + control->objectName());
     EditCounts &counts = m_tally.of(control);
-    const QStringList textsBefore = textsOf(control);
+    const Entries entriesBefore = entriesOf(control);
     const FormState before = state(growingWidgets());
     const int indexBefore = history()->index();
-    QStringList accepted;
+    Entries accepted;
     bool ok = false;
     int opened = 0;
     withDialogs([menu] { menu->preferredEditAction()->trigger(); },
         [&](QDialog *dialog) {
             if (++opened > 1)
                 return;
-            if (textsIn(dialog) != textsBefore)
+            if (entriesIn(dialog) != entriesBefore)
                 finding(QStringLiteral("the dialog of %1 shows '%2' for '%3'")
-                            .arg(control->objectName(), textsIn(dialog).join(QLatin1Char('|')),
-                                textsBefore.join(QLatin1Char('|'))));
+                            .arg(control->objectName(), toText(entriesIn(dialog)), toText(entriesBefore)));
             DialogHand hand(random, m_choosers);
             hand.use(dialog, random.below(12));
             counts.choosers += hand.chooserCounts();
             ok = !random.oneIn(4);
-            accepted = textsIn(dialog);
+            accepted = entriesIn(dialog);
             if (!closeDialog(dialog, ok))
                 finding(QStringLiteral("the dialog of %1 does not close").arg(control->objectName()));
         });

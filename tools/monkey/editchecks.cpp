@@ -49,20 +49,16 @@ QString Monkey::pages() const
     return text;
 }
 
-void Monkey::checkAccepted(QWidget *control, QStringList accepted)
+void Monkey::checkAccepted(QWidget *control, const Entries &accepted)
 {
     // The dialog of the boxes has rules of its own for which boxes stay.
     if (control->inherits("Vexa::DrawbackBoxGroup"))
         return;
-    QStringList now = textsOf(control);
-    // An entry of a list that holds nothing has no row.
-    if (!contentsProperties(control).contains(QStringLiteral("row"))) {
-        accepted.removeAll(QString());
-        now.removeAll(QString());
-    }
-    if (now != accepted)
+    const Entries expected = keptEntries(accepted, control);
+    const Entries now = keptEntries(entriesOf(control), control);
+    if (now != expected)
         finding(QStringLiteral("%1 took '%2' for '%3'")
-                    .arg(control->objectName(), now.join(QLatin1Char('|')), accepted.join(QLatin1Char('|'))));
+                    .arg(control->objectName(), toText(now), toText(expected)));
 }
 
 void Monkey::checkEdit(QWidget *control, const FormState &before, int indexBefore)

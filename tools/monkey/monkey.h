@@ -118,7 +118,7 @@ private:
     void checkReload();
     void compareSaved(const QString &saved, const QString &again);
     /// What was \a accepted in the dialog of a control has to be in it.
-    void checkAccepted(QWidget *control, QStringList accepted);
+    void checkAccepted(QWidget *control, const Entries &accepted);
     /// Undoes and redoes the edit of a control that has just been made.
     void checkEdit(QWidget *control, const FormState &before, int indexBefore);
     void checkState(const FormState &expected, const QString &what);
