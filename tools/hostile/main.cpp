@@ -94,6 +94,8 @@ void edit(Session &session, FormWindow *form, QWidget *control, Random &random)
             DialogHand hand(random, session.choosers);
             hand.use(dialog, random.below(6));
             counts.choosers += hand.chooserCounts();
+            if (!hand.finding().isEmpty())
+                endWithFinding(hand.finding());
             const bool ok = !random.oneIn(6);
             counts.cancelled += !ok;
             if (!closeDialog(dialog, ok))

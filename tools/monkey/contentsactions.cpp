@@ -15,7 +15,8 @@
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QUndoStack>
 
-#include <algorithm>
+#include <iterator>
+#include <map>
 
 QList<QWidget *> Monkey::contentsControls() const
 {
@@ -28,15 +29,26 @@ QList<QWidget *> Monkey::contentsControls() const
     return controls;
 }
 
+QWidget *Monkey::anyContentsControl(Random &random) const
+{
+    // Each class that is there has the same chance, however many of it there are.
+    std::map<int, QList<QWidget *>> byClass;
+    const QList<QWidget *> controls = contentsControls();
+    for (QWidget *control : controls) {
+        // One on a page that is not shown cannot stay selected.
+        if (control->isVisible())
+            byClass[contentsClass(control)] += control;
+    }
+    if (byClass.empty())
+        return nullptr;
+    return random.pick(std::next(byClass.cbegin(), random.below(int(byClass.size())))->second);
+}
+
 void Monkey::editContents(Random &random)
 {
-    QList<QWidget *> controls = contentsControls();
-    // One on a page that is not shown cannot stay selected.
-    const auto isHidden = [](const QWidget *control) { return !control->isVisible(); };
-    controls.erase(std::remove_if(controls.begin(), controls.end(), isHidden), controls.end());
-    if (controls.isEmpty())
+    const QPointer<QWidget> control = anyContentsControl(random);
+    if (!control)
         return;
-    const QPointer<QWidget> control = random.pick(controls);
     DesignerHost::select(m_form, control);
     settle();
     auto *menu = qt_extension<QDesignerTaskMenuExtension *>(m_host.core()->extensionManager(), control);
@@ -59,6 +71,8 @@ void Monkey::editContents(Random &random)
             DialogHand hand(random, m_choosers);
             hand.use(dialog, random.below(12));
             counts.choosers += hand.chooserCounts();
+            if (!hand.finding().isEmpty())
+                finding(hand.finding());
             ok = !random.oneIn(4);
             accepted = entriesIn(dialog);
             if (!closeDialog(dialog, ok))
@@ -69,10 +83,11 @@ void Monkey::editContents(Random &random)
         return finding(QStringLiteral("no dialog opens for ") + control->objectName());
     ++counts.opened;
     counts.cancelled += !ok;
-    if (!ok && (history()->index() != indexBefore || state(before.sizes).saved != before.saved))
-        return finding(QStringLiteral("a cancelled dialog changed ") + control->objectName());
-    if (!ok)
-        return;
+    if (!ok) {
+        if (history()->index() != indexBefore)
+            finding(QStringLiteral("a cancelled dialog of %1 makes a step").arg(control->objectName()));
+        return checkState(before, QStringLiteral("a cancelled dialog of ") + control->objectName());
+    }
     checkAccepted(control, accepted);
     if (history()->index() == indexBefore)
         return;
@@ -82,17 +97,16 @@ void Monkey::editContents(Random &random)
 
 void Monkey::editAndLose(Random &random)
 {
-    const QList<QWidget *> controls = contentsControls();
-    if (controls.isEmpty())
+    const QPointer<QWidget> control = anyContentsControl(random);
+    if (!control)
         return;
-    const QPointer<QWidget> control = random.pick(controls);
     auto *menu = qt_extension<QDesignerTaskMenuExtension *>(m_host.core()->extensionManager(), control);
     if (!menu)
         return;
     const int way = random.below(3);
     withDialogs([menu] { menu->preferredEditAction()->trigger(); },
         [&](QDialog *dialog) {
-            DialogHand(random, m_choosers).use(dialog, 2);
+            DialogHand(random, m_choosers).use(dialog, 6);
             if (way == 0) {
                 m_host.closeForm(m_form);
             } else if (way == 1) {

@@ -51,7 +51,7 @@ const QVector<Monkey::Row> &Monkey::rows()
         {"usePages", 7, &Monkey::usePages},
         {"showPage", 5, &Monkey::showPage},
         {"editContents", 24, &Monkey::editContents},
-        {"editAndLose", 1, &Monkey::editAndLose},
+        {"editAndLose", 2, &Monkey::editAndLose},
         {"changeProperty", 8, &Monkey::changeProperty},
         {"editLists", 12, &Monkey::editLists},
         {"moveByKeys", 3, &Monkey::moveByKeys},

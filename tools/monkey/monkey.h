@@ -97,6 +97,8 @@ private:
     bool isOnForm(const QWidget *widget) const;
     QWidget *anyWidget(Random &random) const;
     QList<QWidget *> contentsControls() const;
+    /// One that is shown; null where none is.
+    QWidget *anyContentsControl(Random &random) const;
     QUndoStack *history() const;
     /// The form as it would be saved, without what no undo step covers.
     QString text() const;

@@ -70,12 +70,12 @@ void Monkey::changeProperty(Random &random)
     const int index = random.below(sheet->count());
     const QString name = sheet->propertyName(index);
     // Names have to stay unique, a size or a hidden widget makes the rest of the steps pointless, Designer
-    // takes back a least size but not the growth that came with it, and a combo box has its items in the
-    // first column whatever the one that it shows.
+    // takes back a least size but not the growth that came with it, a combo box has its items in the first
+    // column whatever the one that it shows, and one that follows its contents takes its size a moment later.
     static const QStringList kept{QStringLiteral("objectName"), QStringLiteral("layoutName"),
         QStringLiteral("minimumSize"), QStringLiteral("maximumSize"), QStringLiteral("maximumWidth"),
         QStringLiteral("maximumHeight"), QStringLiteral("visible"), QStringLiteral("enabled"),
-        QStringLiteral("modelColumn")};
+        QStringLiteral("modelColumn"), QStringLiteral("sizeAdjustPolicy")};
     if (!sheet->isVisible(index) || kept.contains(name))
         return;
     ++m_done["changeProperty"];
@@ -84,10 +84,9 @@ void Monkey::changeProperty(Random &random)
 
 void Monkey::editLists(Random &random)
 {
-    const QList<QWidget *> controls = contentsControls();
-    if (controls.isEmpty())
+    QWidget *control = anyContentsControl(random);
+    if (!control)
         return;
-    QWidget *control = random.pick(controls);
     DesignerHost::select(m_form, control);
     ++m_done["editLists"];
     setProperty(control, random.pick(contentsProperties(control)), random);

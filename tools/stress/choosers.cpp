@@ -84,17 +84,20 @@ Choosers::Choosers(QDesignerFormEditorInterface *core, const QString &picture)
     core->setDialogGui(m_files);
 }
 
-void Choosers::run(const std::function<void()> &opener, Random &random, ChooserCounts *counts)
+bool Choosers::run(const std::function<void()> &opener, Random &random, ChooserCounts *counts)
 {
     const QString noPicture = QStringLiteral("/no/such/picture.png");
     const QStringList answers[] = {{}, {m_picture}, {m_picture}, {noPicture}, {noPicture, m_picture}};
     m_files->answers = random.pick(answers);
-    withDialogs(opener, [&](QDialog *dialog) { use(dialog, random, counts); });
+    // A picture that was prepared and asked for.
+    bool chosen = m_files->answers.contains(m_picture);
+    withDialogs(opener, [&](QDialog *dialog) { chosen = use(dialog, random, counts); });
     countOf(counts, Chooser::File) += m_files->asked > 0;
     m_files->asked = 0;
+    return chosen;
 }
 
-void Choosers::use(QDialog *dialog, Random &random, ChooserCounts *counts) const
+bool Choosers::use(QDialog *dialog, Random &random, ChooserCounts *counts)
 {
     if (dialog->inherits("qdesigner_internal::PlainTextEditorDialog")) {
         ++countOf(counts, Chooser::PlainText);
@@ -112,5 +115,7 @@ void Choosers::use(QDialog *dialog, Random &random, ChooserCounts *counts) const
         if (auto *line = dialog->findChild<QLineEdit *>())
             line->setText(random.pick(themes));
     }
-    closeDialog(dialog, !random.oneIn(3));
+    const bool ok = !random.oneIn(3);
+    closeDialog(dialog, ok);
+    return ok;
 }

@@ -24,12 +24,14 @@ public:
     /// \a picture is a file that Qt can read.
     Choosers(QDesignerFormEditorInterface *core, const QString &picture);
 
-    /// Runs \a opener, uses the chooser that comes up, closes it with Ok or Cancel, and counts it.
-    void run(const std::function<void()> &opener, Random &random, ChooserCounts *counts);
+    /// Runs \a opener, uses the chooser that comes up, closes it with Ok or Cancel, and counts it. Gives
+    /// whether something was chosen.
+    bool run(const std::function<void()> &opener, Random &random, ChooserCounts *counts);
 
 private:
     class FileAnswers;
-    void use(QDialog *dialog, Random &random, ChooserCounts *counts) const;
+    /// Gives whether it was closed with Ok.
+    static bool use(QDialog *dialog, Random &random, ChooserCounts *counts);
 
     const QString m_picture;
     FileAnswers *const m_files; // the form editor's

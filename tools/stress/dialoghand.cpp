@@ -15,7 +15,7 @@
 void DialogHand::use(QDialog *dialog, int operations)
 {
     const QPointer<QDialog> guarded = dialog;
-    for (int i = 0; i < operations && guarded; ++i) {
+    for (int i = 0; i < operations && guarded && m_finding.isEmpty(); ++i) {
         once(guarded);
         QCoreApplication::processEvents();
     }
@@ -26,7 +26,7 @@ void DialogHand::once(QDialog *dialog)
     auto *pane = dialog->findChild<QTreeView *>();
     const bool paneShown = pane && pane->isVisible();
     if (paneShown && m_random.oneIn(2))
-        usePane(pane, m_random, m_choosers, &m_chooserCounts);
+        m_finding = usePane(pane, m_random, m_choosers, &m_chooserCounts);
     else if (m_random.oneIn(paneShown ? 12 : 2))
         press(dialog, "showPropertiesButton");
     else if (dialog->findChild<QTableWidget *>())

@@ -16,6 +16,8 @@ public:
     /// A number of random operations; leaves the dialog open unless it went by itself.
     void use(QDialog *dialog, int operations);
 
+    /// What went wrong, empty where nothing did.
+    const QString &finding() const { return m_finding; }
     /// The choosers that came up meanwhile.
     const ChooserCounts &chooserCounts() const { return m_chooserCounts; }
 
@@ -27,5 +29,6 @@ private:
 
     Random &m_random;
     Choosers &m_choosers;
+    QString m_finding;
     ChooserCounts m_chooserCounts{};
 };

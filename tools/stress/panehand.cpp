@@ -66,23 +66,26 @@ Editor::Editor(QWidget *editor)
 
 } // namespace
 
-void usePane(QTreeView *pane, Random &random, Choosers &choosers, ChooserCounts *counts)
+QString usePane(QTreeView *pane, Random &random, Choosers &choosers, ChooserCounts *counts)
 {
     const QVector<QModelIndex> values = valueCells(pane->model(), random.oneIn(2));
     if (values.isEmpty())
-        return;
-    const QModelIndex value = random.pick(values);
+        return {};
+    const QPersistentModelIndex value = random.pick(values);
     pane->scrollTo(value);
     QTest::mouseClick(pane->viewport(), Qt::LeftButton, Qt::NoModifier, pane->visualRect(value).center());
     QWidget *widget = pane->indexWidget(value);
     if (!widget)
-        return;
+        return {};
     const Editor editor(widget);
     if (editor.reset && random.oneIn(4)) {
         if (editor.reset->isEnabled())
             editor.reset->click();
     } else if (!editor.choices.isEmpty() && !random.oneIn(3)) {
-        choosers.run(random.pick(editor.choices), random, counts);
+        const QString before = value.data().toString();
+        if (!choosers.run(random.pick(editor.choices), random, counts) && value.data().toString() != before)
+            return QStringLiteral("a cancelled chooser changed '%1' to '%2'")
+                .arg(before, value.data().toString());
     } else if (editor.paste) {
         static const QString paths[] = {QStringLiteral(":/monkey/icon.png"),
             QStringLiteral(":/monkey/gone.png"), QStringLiteral("no/such/file.png")};
@@ -94,4 +97,5 @@ void usePane(QTreeView *pane, Random &random, Choosers &choosers, ChooserCounts 
     } else if (editor.box) {
         editor.box->click();
     }
+    return {};
 }
