@@ -47,7 +47,7 @@ void DrawbackBoxGroupPlugin::currentIndexChanged(int index)
         return;
     form->selectWidget(group->widget(index), true);
     selectShownGroup(form, group);
-    refreshPropertyEditor(form->core(), group);
+    refreshPropertyEditor(form->core(), group, QStringLiteral("currentIndex"));
 }
 
 /// Selects the group in the place of what was selected on a page that is hidden now, and after a click on it,
@@ -64,7 +64,7 @@ void DrawbackBoxGroupPlugin::selectShownGroup(
         const QWidget *selected = cursor->selectedWidget(i);
         if (page->isAncestorOf(selected))
             return;
-        isWanted = isWanted || group->isAncestorOf(selected);
+        isWanted = isWanted || (selected != group && group->isAncestorOf(selected));
     }
     if (!isWanted)
         return;

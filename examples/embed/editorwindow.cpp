@@ -94,7 +94,10 @@ bool EditorWindow::open(const QString &fileName, QString *error)
 bool EditorWindow::save(QString *error)
 {
     QSaveFile file(m_form->fileName());
-    if (!file.open(QIODevice::WriteOnly) || file.write(m_form->contents().toUtf8()) < 0 || !file.commit()) {
+    const QByteArray text = m_form->contents().toUtf8();
+    // Without a buffer the result tells whether all of it went into the file.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || file.write(text) != text.size()
+        || !file.commit()) {
         *error = file.errorString();
         return false;
     }

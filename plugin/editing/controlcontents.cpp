@@ -104,18 +104,21 @@ void addItems(const QList<QStandardItem *> &items, QComboBox *comboBox)
 /// Whether an item is again what it was once its texts and icons are written.
 bool isInContents(const QMap<int, QVariant> &item)
 {
-    const QVariant text = item.value(ItemRole::Text);
-    if (!text.canConvert<PropertySheetStringValue>()
-        || text.value<PropertySheetStringValue>().value() != item.value(Qt::DisplayRole).toString())
-        return false;
+    const auto isKnown = [&item](int role) {
+        return role == Qt::DisplayRole || role == ItemRole::Text || role == ItemRole::Icon
+            || (role == Qt::DecorationRole && item.contains(ItemRole::Icon));
+    };
     for (auto it = item.cbegin(); it != item.cend(); ++it) {
-        const bool known = it.key() == Qt::DisplayRole || it.key() == ItemRole::Text
-            || it.key() == ItemRole::Icon
-            || (it.key() == Qt::DecorationRole && item.contains(ItemRole::Icon));
-        if (!known)
+        if (!isKnown(it.key()))
             return false;
     }
-    return true;
+    // Without copies: a combo box may have a hundred thousand items.
+    const auto text = item.constFind(ItemRole::Text), shown = item.constFind(Qt::DisplayRole);
+    return text != item.cend() && shown != item.cend()
+        && text->userType() == qMetaTypeId<PropertySheetStringValue>()
+        && shown->userType() == QMetaType::QString
+        && static_cast<const PropertySheetStringValue *>(text->constData())->value()
+        == *static_cast<const QString *>(shown->constData());
 }
 
 } // namespace

@@ -2,7 +2,10 @@
 
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerPropertyEditorInterface>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QExtensionManager>
 
+#include <QtCore/QVariant>
 #include <QtWidgets/QWidget>
 
 void refreshPropertyEditor(QDesignerFormEditorInterface *core, const QWidget *control)
@@ -14,4 +17,17 @@ void refreshPropertyEditor(QDesignerFormEditorInterface *core, const QWidget *co
         object = object->parent();
     if (object)
         editor->setObject(shown);
+}
+
+void refreshPropertyEditor(
+    QDesignerFormEditorInterface *core, const QWidget *control, const QString &property)
+{
+    QDesignerPropertyEditorInterface *editor = core ? core->propertyEditor() : nullptr;
+    if (!editor || editor->object() != control)
+        return;
+    const auto *sheet
+        = qt_extension<QDesignerPropertySheetExtension *>(core->extensionManager(), editor->object());
+    const int index = sheet ? sheet->indexOf(property) : -1;
+    if (index >= 0)
+        editor->setPropertyValue(property, sheet->property(index), sheet->isChanged(index));
 }

@@ -52,8 +52,16 @@ QString DrawbackBox::title() const { return m_page ? m_page->windowTitle() : QSt
 
 QString DrawbackBox::shownTitle() const
 {
-    const auto *group = qobject_cast<DrawbackBoxGroup *>(parentWidget());
-    return group && m_title.isEmpty() ? group->pageTitle(group->indexOf(this)) : m_title;
+    return m_title.isEmpty() && m_number > 0 ? tr("Page %1").arg(m_number) : m_title;
+}
+
+void DrawbackBox::setNumber(int number)
+{
+    if (number == m_number)
+        return;
+    m_number = number;
+    if (m_title.isEmpty())
+        update();
 }
 
 void DrawbackBox::setExpanded(bool expanded)
@@ -61,6 +69,7 @@ void DrawbackBox::setExpanded(bool expanded)
     if (expanded == m_expanded)
         return;
     m_expanded = expanded;
+    noteOpaqueness();
     if (m_page)
         m_page->setVisible(expanded);
     updateGeometry();
@@ -190,6 +199,14 @@ void DrawbackBox::keyPressEvent(QKeyEvent *event)
     else
         QWidget::keyPressEvent(event);
 }
+
+/// A title bar alone covers the box. A group that is painted then leaves it as it is.
+void DrawbackBox::noteOpaqueness()
+{
+    setAttribute(Qt::WA_OpaquePaintEvent, !m_expanded && height() <= headerHeight());
+}
+
+void DrawbackBox::resizeEvent(QResizeEvent *) { noteOpaqueness(); }
 
 void DrawbackBox::paintEvent(QPaintEvent *)
 {

@@ -78,19 +78,13 @@ QWidget *DrawbackBoxGroup::widget(int index)
 
 DrawbackBox *DrawbackBoxGroup::box(int index) const { return m_boxes.value(index); }
 
-int DrawbackBoxGroup::indexOf(const DrawbackBox *box) const
-{
-    const auto it = std::find(m_boxes.cbegin(), m_boxes.cend(), box);
-    return it == m_boxes.cend() ? -1 : int(it - m_boxes.cbegin());
-}
-
 QString DrawbackBoxGroup::pageTitle(int index) const
 {
     const DrawbackBox *at = box(index);
     if (!at)
         return QString();
     const QString title = at->title();
-    return title.isEmpty() ? tr("Page %1").arg(index + 1) : title;
+    return title.isEmpty() ? DrawbackBox::tr("Page %1").arg(index + 1) : title;
 }
 
 void DrawbackBoxGroup::setPageTitle(const QString &title)
@@ -271,8 +265,7 @@ void DrawbackBoxGroup::placeBoxes()
     for (int i = 0; i < m_boxes.size(); ++i) {
         const int boxHeight = i == m_current ? header + pageHeight : header;
         m_boxes.at(i)->setGeometry(0, top, width() - barWidth, boxHeight);
-        if (m_boxes.at(i)->title().isEmpty())
-            m_boxes.at(i)->update(); // it shows its number
+        m_boxes.at(i)->setNumber(i + 1);
         top += boxHeight + boxSpacing;
     }
 }

@@ -148,7 +148,7 @@ private slots:
         const QString before = saved();
         QVERIFY(!before.contains(QLatin1String("windowTitle")));
         Vexa::DrawbackBox *box = m_group->box(1);
-        QCOMPARE(box->shownTitle(), QStringLiteral("Page 2"));
+        QTRY_COMPARE(box->shownTitle(), QStringLiteral("Page 2"));
         for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return}) {
             QTest::mouseDClick(box, Qt::LeftButton, {}, {30, 5});
             auto *editor = box->findChild<QLineEdit *>();

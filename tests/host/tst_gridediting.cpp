@@ -102,7 +102,8 @@ void typeIntoCell(QDialog *dialog, int row, int column, const QString &text)
     QVERIFY(line);
     line->setText(text);
     QTest::keyClick(line, Qt::Key_Return);
-    QTRY_COMPARE(table(dialog)->item(row, column)->text(), text);
+    QTRY_VERIFY(!table(dialog)->viewport()->findChild<QLineEdit *>());
+    QCOMPARE(table(dialog)->item(row, column)->text(), text);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // The command-line companion, as a process: what it says of good, bad and hostile forms.
 
+#include "sorrelformprocess.h"
 #include "testdata.h"
 
 #include <QtCore/QDir>
@@ -7,29 +8,11 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 
+#include <sys/stat.h>
+
 namespace {
-
-struct Result {
-    int exitCode = -1;
-    QByteArray output;
-    QByteArray errors;
-};
-
-Result run(const QStringList &arguments, const QString &folder = QString())
-{
-    QProcess process;
-    process.setWorkingDirectory(folder);
-    process.start(QStringLiteral(SORREL_FORM), arguments);
-    Result result;
-    if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
-        result.exitCode = process.exitCode();
-    result.output = process.readAllStandardOutput();
-    result.errors = process.readAllStandardError();
-    return result;
-}
 
 /// A form of one QWidget named "Form" with this inside.
 QByteArray form(const QByteArray &contents, const QByteArray &afterwards = QByteArray())
@@ -44,6 +27,18 @@ QByteArray containing(const char *className, const QByteArray &inside)
     return QByteArray("<widget class=\"") + className + "\" name=\"n\">" + inside + "</widget>";
 }
 QByteArray empty(const char *className) { return containing(className, QByteArray()); }
+
+QByteArray string(const char *property, const char *value)
+{
+    return QByteArray("<property name=\"") + property + "\"><string>" + value + "</string></property>";
+}
+/// An item as forms had it before there were list properties.
+QByteArray item(const QByteArray &properties) { return "<item>" + properties + "</item>"; }
+QByteArray stringList(const char *property, const QByteArray &string)
+{
+    return QByteArray("<property name=\"") + property + "\"><stringlist><string>" + string
+        + "</string></stringlist></property>";
+}
 
 /// What a form says of a class that Designer does not have.
 QByteArray declared(const char *className, const char *base)
@@ -97,9 +92,6 @@ private slots:
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("kinds");
-        const auto add = [](const char *name, const QByteArray &text, const char *kinds) {
-            QTest::newRow(name) << text << words(kinds);
-        };
         add("empty file", "", "error");
         add("other XML", "<html><body/></html>", "error");
         add("cut off", form("<widget class=\"QPushButton\" name=\"b\">").left(90), "error");
@@ -129,6 +121,35 @@ private slots:
         // In Designer itself this is a question, which nobody is there to answer.
         add("absent resource file",
             form(QByteArray(), "<resources><include location=\"absent.qrc\"/></resources>"), "warning");
+        const auto addControl
+            = [](const char *name, const char *control, const QByteArray &inside, const char *kinds) {
+                  add(name, form(containing(control, inside)), kinds);
+              };
+        const QByteArray text = string("text", "a");
+        addControl("items of options", "Vexa::OptionRadios", item(text), "uncompiled");
+        addControl("items without a text", "Vexa::OptionRadios", item(string("text", "")), "");
+        addControl(
+            "items beside their list", "Vexa::OptionRadios", stringList("textList", "a") + item(text), "");
+        addControl("items beside another list", "Vexa::CheckableTextComboBox",
+            stringList("itemTextList", "a") + item(string("toolTip", "a")), "uncompiled");
+        addControl("items of a combo box", "Vexa::ComboBox", item(text), "");
+        addControl(
+            "actions of a combo box", "Vexa::ComboBox", item(text + string("action", "a")), "uncompiled");
+        addControl("what no item has", "Vexa::ComboBox", item(text + string("data", "a")), "uncompiled lost");
+        addControl("items of a list", "Vexa::ListWidget", item(text + string("toolTip", "a")), "");
+        addControl(
+            "icon by file", "Vexa::OptionRadios", stringList("iconList", "/opt/a.png"), "absolute-path");
+        addControl("icon by resource", "Vexa::OptionRadios", stringList("iconList", ":/a.png"), "");
+        addControl("icon beside the form", "Vexa::OptionRadios", stringList("iconList", "icons/a.png"), "");
+        addControl("no icon", "Vexa::OptionRadios", stringList("textList", "/opt/a.png"), "");
+        addControl("icon of another system", "Vexa::OptionRadios", stringList("iconList", "C:/a.png"),
+            "absolute-path");
+        addControl("icon of Qt's", "QPushButton",
+            "<property "
+            "name=\"icon\"><iconset><normaloff>/opt/a.png</normaloff>/opt/a.png</iconset></property>",
+            "absolute-path");
+        addControl("pixmap of Qt's", "QLabel",
+            "<property name=\"pixmap\"><pixmap>/opt/a.png</pixmap></property>", "absolute-path");
         add("more rows than fit",
             form(containing(
                 "Vexa::MatrixPushButtons", "<property name=\"row\"><UInt>4294967295</UInt></property>")),
@@ -183,11 +204,17 @@ private slots:
             QTest::newRow(qPrintable(arguments.join(QLatin1Char(' ')))) << arguments << said;
         };
         row(words("check absent.ui"), QStringLiteral("absent.ui"));
-        row({QStringLiteral("check"), m_folder.path()}, m_folder.path());
         row(words("render absent.ui a.png"), QStringLiteral("absent.ui"));
         row(words("normalize absent.ui"), QStringLiteral("absent.ui"));
         row({QStringLiteral("render"), exampleForms().first(), QStringLiteral("/absent/a.png")},
             QStringLiteral("/absent/a.png"));
+        const QString pipe = m_folder.filePath(QStringLiteral("pipe.ui"));
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        for (const QString &file : {pipe, QStringLiteral("/dev/zero"), m_folder.path()}) {
+            row({QStringLiteral("check"), file}, QStringLiteral("not a regular file"));
+            row({QStringLiteral("render"), file, QStringLiteral("a.png")}, file + QLatin1String(": not a"));
+            row({QStringLiteral("normalize"), file}, file + QLatin1String(": not a regular file"));
+        }
         row({}, QStringLiteral("sorrel-form: "));
         row(words("polish a.ui"), QStringLiteral("sorrel-form: "));
         row(words("check"), QStringLiteral("sorrel-form: "));
@@ -226,11 +253,70 @@ private slots:
         QCOMPARE(run({QStringLiteral("normalize"), fileName}).exitCode, 0);
         QCOMPARE(read(fileName), once);
 
+        // A link stays one.
+        const QString link = m_folder.filePath(QStringLiteral("link.ui"));
+        QVERIFY(QFile::link(write(before), link));
+        QCOMPARE(run({QStringLiteral("normalize"), link}).exitCode, 0);
+        QCOMPARE(read(fileName), once);
+        QVERIFY(QFileInfo(link).isSymLink());
+
         // A form with findings stays as it is.
         const QByteArray bad = form(empty("QLabel") + empty("QLabel"));
         write(bad);
         QCOMPARE(run({QStringLiteral("normalize"), fileName}).exitCode, 1);
         QCOMPARE(read(fileName), bad);
+    }
+
+    void normalizingMendsContents()
+    {
+        for (const char *name : {"uncompiled.ui", "absolutepath.ui"}) {
+            const QString fileName = write(read(QStringLiteral(EXAMPLES "/broken/") + QLatin1String(name)));
+            for (const char *steps : {"check 1", "normalize 0", "check 0"}) {
+                const Result result = run({words(steps).first(), fileName});
+                QVERIFY2(result.exitCode == words(steps).last().toInt(), name + result.output);
+            }
+            QVERIFY(read(fileName).contains("left"));
+        }
+    }
+
+    void fullDisksLeaveFilesAsTheyWere_data()
+    {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<int>("labels");
+        QTest::newRow("form") << "form.ui" << 20;
+        QTest::newRow("form of many blocks") << "form.ui" << 500;
+        QTest::newRow("picture") << "old.png" << 500;
+    }
+    void fullDisksLeaveFilesAsTheyWere()
+    {
+        QFETCH(QString, file);
+        QFETCH(int, labels);
+        QByteArray text;
+        for (int i = 0; i < labels; ++i)
+            text += "<widget class=\"QLabel\" name=\"l" + QByteArray::number(i) + "\"/>";
+        const QString fileName = write(form(text));
+        const QString touched = m_folder.filePath(file);
+        const bool renders = touched != fileName;
+        if (renders)
+            QVERIFY(QFile::copy(fileName, touched));
+        const QByteArray before = read(touched);
+        const Result result = run(renders ? QStringList{QStringLiteral("render"), fileName, touched}
+                                          : QStringList{QStringLiteral("normalize"), fileName},
+            QString(), 100);
+        QVERIFY2(result.errors.contains(QFile::encodeName(touched) + ": File too large\n"), result.errors);
+        QCOMPARE(result.exitCode, 2);
+        QCOMPARE(read(touched), before);
+        QCOMPARE(QDir(m_folder.path()).entryList({file + QStringLiteral("?*")}), QStringList());
+    }
+
+    void lostOutputIsNoSuccess()
+    {
+        Process process(RLIM_INFINITY);
+        process.setStandardOutputFile(QStringLiteral("/dev/full"));
+        process.start(QStringLiteral(SORREL_FORM), {QStringLiteral("check"), exampleForms().first()});
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitCode(), 2);
+        QVERIFY(process.readAllStandardError().contains("output"));
     }
 
     /// Read as UTF-8 it would lose what it says.
@@ -247,6 +333,10 @@ private slots:
     }
 
 private:
+    static void add(const char *name, const QByteArray &text, const char *kinds)
+    {
+        QTest::newRow(name) << text << words(kinds);
+    }
     static QStringList exampleForms()
     {
         const QDir folder(QStringLiteral(EXAMPLES "/forms"));

@@ -40,6 +40,38 @@ bool areAlike(const QString &type, const QString &other)
     });
 }
 
+bool isControl(const QString &className) { return className.startsWith(QLatin1String("Vexa::")); }
+
+/// Where programs find what older forms have in the items of a control.
+const QMultiMap<QString, QString> &itemLists()
+{
+    static const QMultiMap<QString, QString> lists{
+        {QStringLiteral("text"), QStringLiteral("textList")},
+        {QStringLiteral("text"), QStringLiteral("itemTextList")},
+        {QStringLiteral("icon"), QStringLiteral("iconList")},
+        {QStringLiteral("toolTip"), QStringLiteral("toolTips")},
+        {QStringLiteral("data"), QStringLiteral("dataList")},
+        {QStringLiteral("action"), QStringLiteral("actionList")},
+    };
+    return lists;
+}
+
+bool hasList(const FormFacts::Widget &widget, const QString &itemProperty)
+{
+    const QStringList lists = itemLists().values(itemProperty);
+    return std::any_of(lists.cbegin(), lists.cend(),
+        [&widget](const QString &list) { return widget.properties.contains(list); });
+}
+
+/// uic reads items for the classes that extend Qt's own.
+bool isReadByUic(const QWidget *widget, const QString &itemProperty)
+{
+    if (widget->inherits("QComboBox"))
+        return itemProperty == QLatin1String("text") || itemProperty == QLatin1String("icon");
+    return widget->inherits("QListWidget") || widget->inherits("QTableWidget")
+        || widget->inherits("QTreeWidget");
+}
+
 /// What is in \a before and no more in \a after.
 void findLosses(const FormFacts &before, const FormFacts &after, QVector<Finding> *findings)
 {
@@ -66,12 +98,60 @@ void findLosses(const FormFacts &before, const FormFacts &after, QVector<Finding
                         it.key())};
             }
         }
+        for (const QString &property : it->itemProperties) {
+            if (isControl(it->className) && !kept->itemProperties.contains(property)
+                && !hasList(*kept, property)) {
+                *findings += {"lost",
+                    inWidget(
+                        QStringLiteral("saving loses what the items have as %1").arg(property), it.key())};
+            }
+        }
     }
     for (const QString &name : before.repeatedNames)
         *findings += {"repeated-name", QStringLiteral("more than one widget has the name \"%1\"").arg(name)};
 }
 
+void findUnknownProperties(const FormFacts::Widget &facts, const QString &name, QWidget *widget,
+    QExtensionManager *extensions, QVector<Finding> *findings)
+{
+    const auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(extensions, widget);
+    const auto *dynamic = qt_extension<QDesignerDynamicPropertySheetExtension *>(extensions, widget);
+    for (auto property = facts.properties.cbegin(); property != facts.properties.cend(); ++property) {
+        if (property->dynamic)
+            continue;
+        const int index = sheet ? sheet->indexOf(property.key()) : -1;
+        if (index < 0 || (dynamic && dynamic->isDynamicProperty(index))) {
+            *findings += {"unknown-property",
+                inWidget(
+                    QStringLiteral("unknown property %1 of %2").arg(property.key(), facts.className), name)};
+        }
+    }
+}
+
+void findUncompiledItems(
+    const FormFacts::Widget &facts, const QString &name, const QWidget *widget, QVector<Finding> *findings)
+{
+    QStringList uncompiled;
+    for (const QString &property : facts.itemProperties) {
+        if (itemLists().contains(property) && !hasList(facts, property) && !isReadByUic(widget, property))
+            uncompiled += property;
+    }
+    if (uncompiled.isEmpty() || !isControl(facts.className))
+        return;
+    uncompiled.sort();
+    const QString properties = uncompiled.join(QLatin1String(", "));
+    *findings += {"uncompiled",
+        inWidget(QStringLiteral("uic leaves out what the items have as %1").arg(properties), name), true};
+}
+
 } // namespace
+
+bool FormReport::isMended() const
+{
+    return opened && std::all_of(findings.cbegin(), findings.cend(), [](const Finding &finding) {
+        return finding.mended;
+    });
+}
 
 FormChecker::FormChecker(DesignerHost *host)
     : m_host(host)
@@ -94,11 +174,13 @@ FormReport FormChecker::check(const QString &text, const QString &fileName)
     }
     report.opened = true;
 
-    QExtensionManager *extensions = m_host->core()->extensionManager();
     for (auto it = facts.widgets.cbegin(); it != facts.widgets.cend(); ++it) {
+        for (const QString &path : it->absoluteIcons) {
+            report.findings += {"absolute-path",
+                inWidget(QStringLiteral("the path of the icon %1 is absolute").arg(path), it.key()), true};
+        }
         // A class that the form declares is promoted from one that Designer knows; ours are no such classes.
-        const bool promoted = facts.declaredClasses.contains(it->className)
-            && !it->className.startsWith(QLatin1String("Vexa::"));
+        const bool promoted = facts.declaredClasses.contains(it->className) && !isControl(it->className);
         if (!m_knownClasses.contains(it->className)) {
             if (!promoted)
                 report.findings += {"unknown-class",
@@ -109,18 +191,8 @@ FormReport FormChecker::check(const QString &text, const QString &fileName)
         QWidget *widget = main->objectName() == it.key() ? main : main->findChild<QWidget *>(it.key());
         if (!widget)
             continue;
-        const auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(extensions, widget);
-        const auto *dynamic = qt_extension<QDesignerDynamicPropertySheetExtension *>(extensions, widget);
-        for (auto property = it->properties.cbegin(); property != it->properties.cend(); ++property) {
-            if (property->dynamic)
-                continue;
-            const int index = sheet ? sheet->indexOf(property.key()) : -1;
-            if (index < 0 || (dynamic && dynamic->isDynamicProperty(index))) {
-                report.findings += {"unknown-property",
-                    inWidget(QStringLiteral("unknown property %1 of %2").arg(property.key(), it->className),
-                        it.key())};
-            }
-        }
+        findUnknownProperties(*it, it.key(), widget, m_host->core()->extensionManager(), &report.findings);
+        findUncompiledItems(*it, it.key(), widget, &report.findings);
     }
 
     report.saved = DesignerHost::save(form);

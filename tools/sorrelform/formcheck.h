@@ -10,6 +10,7 @@ class DesignerHost;
 struct Finding {
     const char *kind; ///< a fixed word, for programs
     QString message; ///< for people
+    bool mended = false; ///< by opening and saving the form
 };
 
 /// What became of one form.
@@ -21,6 +22,8 @@ struct FormReport {
     bool normalized = false; ///< that is what it was before
 
     bool isGood() const { return opened && findings.isEmpty(); }
+    /// Whether nothing is wrong but what saving puts right.
+    bool isMended() const;
 };
 
 /// Opens forms in an embedded Designer as its user would, and says what this did to them.

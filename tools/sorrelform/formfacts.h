@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QMap>
+#include <QtCore/QSet>
 #include <QtCore/QStringList>
 
 /// What stands in the text of a form, before Designer made anything of it.
@@ -12,6 +13,8 @@ struct FormFacts {
     struct Widget {
         QString className;
         QMap<QString, Property> properties; ///< by name
+        QSet<QString> itemProperties; ///< that have a text in one of the widget's <item> elements
+        QStringList absoluteIcons; ///< the icons that are no resources and have no relative path
     };
 
     QMap<QString, Widget> widgets; ///< by object name

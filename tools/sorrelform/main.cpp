@@ -2,7 +2,7 @@
 
 #include "designerhost.h"
 #include "formcheck.h"
-#include "formfacts.h"
+#include "formfile.h"
 #include "pluginfolder.h"
 #include "silentdialogs.h"
 #include "warningcollector.h"
@@ -13,18 +13,19 @@
 #include <private/formwindowbase_p.h>
 #include <private/pluginmanager_p.h>
 
+#include <QtCore/QBuffer>
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QSaveFile>
-#include <QtCore/QTextCodec>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTextStream>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QApplication>
 
-#include <memory>
+#include <cstdio>
 
 namespace {
 
@@ -35,7 +36,8 @@ const char description[]
       "Needs no display.\n"
       "\n"
       "  check FORM.ui ...        says what is wrong: what Designer warns about, unknown classes\n"
-      "                           and properties, what saving loses, unstable saving\n"
+      "                           and properties, what saving loses, unstable saving,\n"
+      "                           what compiled programs would not get\n"
       "  render FORM.ui OUT.png   writes Designer's preview of the form as a picture\n"
       "  normalize FORM.ui ...    opens and saves; a form that would lose something is left alone\n"
       "\n"
@@ -56,37 +58,6 @@ int fail(const QString &message)
 
 /// What Qt takes on a desktop that does not say; without a display it would be a third larger.
 constexpr int desktopFontSize = 9;
-
-/// Designer's time grows with the square of the depth; deeper than this a form takes it minutes.
-constexpr int greatestDepth = 2000;
-
-/// False, with the reason in \a error, where \a fileName cannot be read or is no text that Designer would
-/// write.
-bool readForm(const QString &fileName, QString *text, QString *error)
-{
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = file.errorString();
-        return false;
-    }
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        *error = file.errorString();
-        return false;
-    }
-    QTextCodec::ConverterState state;
-    *text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    if (state.invalidChars || state.remainingChars) {
-        *error = QStringLiteral("not a text in UTF-8");
-        return false;
-    }
-    const int depth = FormFacts::of(*text).depth;
-    if (depth > greatestDepth) {
-        *error = QStringLiteral("%1 widgets stand in each other, more than %2").arg(depth).arg(greatestDepth);
-        return false;
-    }
-    return true;
-}
 
 /// Tells on the standard error how far a run over many forms has come.
 void showProgress(int done, const QStringList &files)
@@ -157,8 +128,11 @@ int render(DesignerHost *host, const QString &fileName, const QString &pictureNa
     const QStringList warnings = collector.takeWarnings();
     for (const QString &warning : warnings)
         standardError() << fileName << ": warning: " << warning << Qt::endl;
-    if (picture.isNull() || !picture.save(pictureName))
-        return fail(QStringLiteral("%1: the picture cannot be written").arg(pictureName));
+    QBuffer buffer;
+    if (!picture.save(&buffer, QFileInfo(pictureName).suffix().toLatin1().constData()))
+        return fail(QStringLiteral("%1: no picture can be made for a file of this name").arg(pictureName));
+    if (!writeFile(pictureName, buffer.data(), &error))
+        return fail(QStringLiteral("%1: %2").arg(pictureName, error));
     return Good;
 }
 
@@ -174,40 +148,26 @@ int normalize(DesignerHost *host, const QStringList &files)
             result = ExitCode(fail(QStringLiteral("%1: %2").arg(files.at(i), error)));
             continue;
         }
-        const FormReport report = checker.check(text, files.at(i));
+        FormReport report = checker.check(text, files.at(i));
+        if (report.isMended() && !report.normalized) {
+            if (!writeFile(files.at(i), report.saved.toUtf8(), &error)) {
+                result = ExitCode(fail(QStringLiteral("%1: %2").arg(files.at(i), error)));
+                continue;
+            }
+            if (!report.isGood())
+                report = checker.check(report.saved, files.at(i));
+        }
         if (!report.isGood()) {
             print(files.at(i), report);
             result = qMax(result, HasFindings);
-        } else if (!report.normalized) {
-            QSaveFile file(files.at(i));
-            if (!file.open(QIODevice::WriteOnly) || file.write(report.saved.toUtf8()) < 0 || !file.commit())
-                result = ExitCode(fail(QStringLiteral("%1: %2").arg(files.at(i), file.errorString())));
         }
     }
     return result;
 }
 
-} // namespace
-
-int main(int argc, char *argv[])
+/// Does what the command line says.
+int run(const QApplication &application)
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The result depends on the form alone, not on somebody's settings, style or plugins; and none are
-    // changed.
-    const QTemporaryDir home;
-    for (const char *variable : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
-        qputenv(variable, QFile::encodeName(home.path()));
-
-    QApplication application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("sorrel-form"));
-    QApplication::setApplicationVersion(QStringLiteral(VERSION));
-    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
-        QFont font = QApplication::font();
-        font.setPointSize(desktopFontSize);
-        QApplication::setFont(font);
-    }
-
     QCommandLineParser parser;
     parser.setApplicationDescription(QLatin1String(description));
     parser.addHelpOption();
@@ -249,4 +209,31 @@ int main(int argc, char *argv[])
     if (command == QLatin1String("check"))
         return check(&host, files, parser.isSet(json));
     return normalize(&host, files);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The result depends on the form alone, not on somebody's settings, style or plugins; and none are
+    // changed.
+    const QTemporaryDir home;
+    for (const char *variable : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+        qputenv(variable, QFile::encodeName(home.path()));
+
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("sorrel-form"));
+    QApplication::setApplicationVersion(QStringLiteral(VERSION));
+    if (QGuiApplication::platformName() == QLatin1String("offscreen")) {
+        QFont font = QApplication::font();
+        font.setPointSize(desktopFontSize);
+        QApplication::setFont(font);
+    }
+
+    const int result = run(application);
+    if (std::fflush(stdout) != 0 || std::ferror(stdout))
+        return fail(QStringLiteral("the output cannot be written"));
+    return result;
 }

@@ -57,8 +57,14 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    friend class DrawbackBoxGroup;
+
+    /// The place in a group, from 1.
+    void setNumber(int number);
+    void noteOpaqueness();
     void activateHeader();
     void editTitle();
     void endEditing(bool accepted);
@@ -67,6 +73,7 @@ private:
     QPointer<QLineEdit> m_titleEditor;
     QWidget *m_page = nullptr;
     QString m_title;
+    int m_number = 0;
     bool m_expanded = true;
 };
 
@@ -92,8 +99,6 @@ public:
     /// Null for an index without a page.
     QWidget *widget(int index);
     DrawbackBox *box(int index) const;
-    /// -1 for a box that is not in the group.
-    int indexOf(const DrawbackBox *box) const;
     /// The window title of the page; "Page 1" and so on for a page that has none.
     QString pageTitle(int index) const;
     /// Sets the title of the current page, unless pageTitle() gives it as it is.
