@@ -24,7 +24,7 @@ constexpr int mostWidgets = 12;
 const char *const dropped[] = {"Vexa::OptionButtons", "Vexa::OptionRadios", "Vexa::OptionComboBox",
     "Vexa::OptionCheckBox", "Vexa::ComboBox", "Vexa::CheckableTextComboBox", "Vexa::MatrixPushButtons",
     "Vexa::MatrixCheckBoxes", "Vexa::MatrixRadioButtons", "Vexa::MatrixPopButtons", "Vexa::DrawbackBoxGroup",
-    "Vexa::DrawbackBoxGroup", "Vexa::Form", "Vexa::Pane"};
+    "Vexa::Form", "Vexa::Pane"};
 
 const char *const others[]
     = {"Vexa::Angle", "Vexa::CmdButton", "Vexa::Color", "Vexa::ColorTransfer", "Vexa::Distance",
@@ -55,7 +55,7 @@ void Monkey::drop(Random &random)
 {
     if (widgets().size() >= mostWidgets)
         return;
-    QString name = QLatin1String(random.oneIn(3) ? random.pick(others) : random.pick(dropped));
+    QString name = QLatin1String(random.oneIn(5) ? random.pick(others) : random.pick(dropped));
     if (m_withoutControls)
         name = counterpart(name);
     const QPoint position(random.below(m_form->width()), random.below(m_form->height()));
