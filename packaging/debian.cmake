@@ -40,4 +40,11 @@ set(CPACK_COMPONENT_STANDIN_DESCRIPTION
 paths and properties; headers and CMake package included.")
 set(CPACK_DEBIAN_STANDIN_PACKAGE_SUGGESTS qtbase5-dev) # what the CMake package asks for
 
+# The licence, where Debian looks for that of a package.
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+    string(TOUPPER ${component} name)
+    install(FILES ${CMAKE_CURRENT_LIST_DIR}/copyright
+        DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${CPACK_DEBIAN_${name}_PACKAGE_NAME} COMPONENT ${component})
+endforeach()
+
 include(CPack)

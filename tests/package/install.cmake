@@ -12,6 +12,8 @@ foreach(file
         "${TRANSLATIONS}/sorrelplugin_zh_CN.qm"
         "${PREFIX}/${LIBDIR}/libSorrel.so"
         "${PREFIX}/bin/sorrel-form"
+        "${PREFIX}/share/doc/sorrel-designer-plugin/copyright"
+        "${PREFIX}/share/doc/sorrel-standin/copyright"
         "${PREFIX}/${LIBDIR}/cmake/Sorrel/SorrelConfig.cmake"
         "${PREFIX}/${LIBDIR}/cmake/SorrelPlugin/SorrelPluginConfig.cmake"
         "${PREFIX}/include/nui/Sorrel/SrComboBox.h"
