@@ -8,8 +8,8 @@
 #include <QtDesigner/QDesignerFormWindowInterface>
 
 struct DrawbackBoxHold::Shared {
-    explicit Shared(Vexa::DrawbackBox *box)
-        : box(box)
+    explicit Shared(Vexa::DrawbackBox *heldBox)
+        : box(heldBox)
     {
     }
     ~Shared()

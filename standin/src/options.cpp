@@ -67,9 +67,9 @@ void AbstractOptions::setToolTips(const QStringList &toolTips)
     showOptions();
 }
 
-void AbstractOptions::setDataList(const QStringList &data)
+void AbstractOptions::setDataList(const QStringList &dataList)
 {
-    m_data = data;
+    m_data = dataList;
     showOptions();
 }
 

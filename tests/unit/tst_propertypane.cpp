@@ -294,12 +294,12 @@ private slots:
     {
         // The button asks again where the icon is from.
         const auto title = [this] {
-            QString title;
-            m_pane->usesDialog(icon, [&title](QDialog *dialog) {
-                title = dialog->windowTitle();
+            QString shown;
+            m_pane->usesDialog(icon, [&shown](QDialog *dialog) {
+                shown = dialog->windowTitle();
                 dialog->reject();
             });
-            return title;
+            return shown;
         };
         m_pane->driver.open(icon);
         QCOMPARE(title(), QStringLiteral("Select Resource"));

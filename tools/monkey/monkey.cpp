@@ -93,7 +93,7 @@ void Monkey::begin()
 QString Monkey::perform(const Step &step)
 {
     const auto row = std::find_if(
-        rows().cbegin(), rows().cend(), [&step](const Row &row) { return step.action == row.name; });
+        rows().cbegin(), rows().cend(), [&step](const Row &any) { return step.action == any.name; });
     if (row == rows().cend())
         return QStringLiteral("no such action: ") + QString::fromUtf8(step.action);
     Random random(step.seed);
