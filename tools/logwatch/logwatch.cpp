@@ -56,9 +56,6 @@ void LogWatch::allow(const QString &pattern)
     state->allowed += QRegularExpression(QRegularExpression::anchoredPattern(pattern));
 }
 
-QStringList LogWatch::takeUnexpected()
-{
-    return std::exchange(state->unexpected, {});
-}
+QStringList LogWatch::takeUnexpected() { return std::exchange(state->unexpected, {}); }
 
 QStringList LogWatch::all() const { return state->all; }
