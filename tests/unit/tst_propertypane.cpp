@@ -174,14 +174,12 @@ private slots:
             PropertySheetStringValue(QStringLiteral("t"), false, QStringLiteral("d"), QStringLiteral("c")));
         QVERIFY(!pane.isModified(comment));
         QVERIFY(pane.open(comment));
-        QVERIFY(!pane.resetButton(comment));
-        QVERIFY(!pane.moreButton(comment));
+        QVERIFY(!pane.resetButton(comment) && !pane.moreButton(comment));
     }
 
     void textsMayHaveSeveralLines()
     {
-        const QPair<QString, QString> texts[] = {{QStringLiteral("a\\nb"), QStringLiteral("a\nb")},
-            {QStringLiteral("a\\\\b"), QStringLiteral("a\\b")},
+        const QPair<QString, QString> texts[] = {{QStringLiteral("a\\nb\\\\c"), QStringLiteral("a\nb\\c")},
             {QStringLiteral("a\\"), QStringLiteral("a\\")},
             {QStringLiteral("\"a\" & 'b' <c>"), QStringLiteral("\"a\" & 'b' <c>")}};
         for (const auto &[typed, value] : texts) {
@@ -284,8 +282,7 @@ private slots:
 
         pane.reset(QStringLiteral("icon/Normal Off"));
         QVERIFY(!m_pane->item->data(28).isValid());
-        QVERIFY(!pane.isModified(icon));
-        QVERIFY(m_pane->item->icon().isNull());
+        QVERIFY(!pane.isModified(icon) && m_pane->item->icon().isNull());
         choose(icon, "");
         QVERIFY(!m_pane->item->data(28).isValid());
     }
