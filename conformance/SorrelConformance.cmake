@@ -1,9 +1,12 @@
 # Whether a control library has what the plugin asks of it, operation by operation.
 #
-# A check of a few tokens is made from each row of operations.txt. All of them are compiled, linked and run as one
+# A check of a few tokens is made from each row of operations.txt, and from the rows that follow from the catalogue for
+# the controls that are not in it. All of them are compiled, linked and run as one
 # program; since each stands under a #line directive with the number of its row, compiler and linker name the rows
 # that fail. These are taken out and the rest is tried again, because the linker speaks only after the compiler
 # has no complaints, and the program only after both.
+
+include("${CMAKE_CURRENT_LIST_DIR}/../plugin/catalogue.cmake")
 
 set(SORREL_OPERATIONS "${CMAKE_CURRENT_LIST_DIR}/operations.txt")
 
@@ -13,6 +16,14 @@ function(sorrel_conformance report_variable)
     set(ENV{LC_ALL} C)
     set(folder "${CMAKE_CURRENT_BINARY_DIR}/conformance-check")
     file(STRINGS "${SORREL_OPERATIONS}" rows)
+    sorrel_catalogue(controls)
+    foreach(control IN LISTS controls)
+        string(REGEX REPLACE "^([^|]*)\\|([^|]*)\\|.*" "\\1" name "${control}")
+        set(header "${CMAKE_MATCH_2}")
+        if(NOT "${rows}" MATCHES "class ${name} ")
+            list(APPEND rows "class ${name} QWidget ${header}" "constructor (QWidget *)")
+        endif()
+    endforeach()
     _sorrel_count_operations("${rows}" all)
     set(missing "")
     while(TRUE)
@@ -72,14 +83,15 @@ function(_sorrel_write_check rows missing file)
         if(row MATCHES "^(class|bare) ([^ ]+) (.*)$")
             set(kind ${CMAKE_MATCH_1})
             set(class ${CMAKE_MATCH_2})
-            string(REGEX REPLACE "^.* " "" header "${CMAKE_MATCH_3}")
-            string(REGEX REPLACE " .*$" "" base "${CMAKE_MATCH_3}")
+            set(place "${CMAKE_MATCH_3}")
+            string(REGEX REPLACE "^.* " "" header "${place}")
+            string(REGEX REPLACE " .*$" "" base "${place}")
             string(APPEND includes "#if __has_include(<${header}${Sorrel_HEADER_EXTENSION}>)\n#include <${header}${Sorrel_HEADER_EXTENSION}>\n")
             if(NOT number IN_LIST missing)
                 string(APPEND includes "#else\n#line ${number} \"operations.txt\"\n#error no such header\n")
             endif()
             string(APPEND includes "#endif\n")
-            if(kind STREQUAL class)
+            if(kind STREQUAL "class")
                 set(check "${base} *check${number}(${class} *c) { return c; }")
                 set(condition "qstrcmp(${class}::staticMetaObject.className(), \"${class}\") == 0")
             endif()
@@ -171,8 +183,9 @@ function(_sorrel_report rows missing all report_variable)
         math(EXPR number "${number} + 1")
         if(row MATCHES "^(class|bare) ([^ ]+) (.*)$")
             set(class ${CMAKE_MATCH_2})
-            string(REGEX REPLACE "^.* " "" header "${CMAKE_MATCH_3}")
-            string(REGEX REPLACE " .*$" "" base "${CMAKE_MATCH_3}")
+            set(place "${CMAKE_MATCH_3}")
+            string(REGEX REPLACE "^.* " "" header "${place}")
+            string(REGEX REPLACE " .*$" "" base "${place}")
         endif()
         if(NOT number IN_LIST missing)
             continue()

@@ -5,6 +5,7 @@
 #include <private/formwindowbase_p.h>
 #include <private/qdesigner_formwindowcommand_p.h>
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 
 #include <functional>
@@ -81,4 +82,29 @@ private:
     PutBack m_putBack;
     qdesigner_internal::DesignerIconCache *m_iconCache = nullptr;
     const char *const m_slot;
+};
+
+inline constexpr char noText[] = "";
+
+/// A change command without a state of its own: \a writeContents, a function or a member of the contents, is
+/// all that its control needs. \a text is for translators in the context "Command", noText for an undo
+/// step that has none.
+template <class Control, class Contents, auto writeContents, const char *text = noText,
+    const char *slot = nullptr>
+class PlainChangeCommand final : public ChangeContentsCommand<Control, Contents> {
+public:
+    explicit PlainChangeCommand(QDesignerFormWindowInterface *formWindow)
+        : ChangeContentsCommand<Control, Contents>(
+            *text ? QCoreApplication::translate("Command", text) : QString(), formWindow, slot)
+    {
+    }
+
+private:
+    using PutBack = typename ChangeContentsCommand<Control, Contents>::PutBack;
+
+    void write(const Contents &contents, Control *control) override
+    {
+        std::invoke(writeContents, contents, control);
+    }
+    PutBack keepRest(Control *control) const override { return keepLists(control); }
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "changecontentscommand.h"
-#include "listcontents.h"
+#include "controlcontents.h"
 
 #include <sorrel/SrComboBox.h>
 #include <sorrel/SrLineEditEx.h>
@@ -24,39 +24,16 @@ private:
     std::optional<int> m_currentIndex; ///< before the first write
 };
 
-class ChangeCheckComboCommand final
-    : public ChangeContentsCommand<Vexa::CheckableTextComboBox, ListContents> {
-public:
-    explicit ChangeCheckComboCommand(QDesignerFormWindowInterface *formWindow);
+using ChangeCheckComboCommand
+    = PlainChangeCommand<Vexa::CheckableTextComboBox, ListContents, &applyToCheckCombo>;
 
-private:
-    void write(const ListContents &contents, Vexa::CheckableTextComboBox *checkCombo) override;
-    PutBack keepRest(Vexa::CheckableTextComboBox *checkCombo) const override;
-};
+using ChangeOptionComboCommand = PlainChangeCommand<Vexa::OptionComboBox, ListContents, &applyToOptionCombo>;
 
-class ChangeOptionComboCommand final : public ChangeContentsCommand<Vexa::OptionComboBox, ListContents> {
-public:
-    explicit ChangeOptionComboCommand(QDesignerFormWindowInterface *formWindow);
+inline constexpr char changeOptionButtonsText[]
+    = QT_TRANSLATE_NOOP("Command", "Change OptionButtons Contents");
+using ChangeOptionButtonsCommand = PlainChangeCommand<Vexa::OptionButtons, ListContents,
+    &applyToOptionButtons, changeOptionButtonsText, layOutSlot>;
 
-private:
-    void write(const ListContents &contents, Vexa::OptionComboBox *optionCombo) override;
-    PutBack keepRest(Vexa::OptionComboBox *optionCombo) const override;
-};
-
-class ChangeOptionButtonsCommand final : public ChangeContentsCommand<Vexa::OptionButtons, ListContents> {
-public:
-    explicit ChangeOptionButtonsCommand(QDesignerFormWindowInterface *formWindow);
-
-private:
-    void write(const ListContents &contents, Vexa::OptionButtons *buttons) override;
-    PutBack keepRest(Vexa::OptionButtons *buttons) const override;
-};
-
-class ChangeOptionRadiosCommand final : public ChangeContentsCommand<Vexa::OptionRadios, ListContents> {
-public:
-    explicit ChangeOptionRadiosCommand(QDesignerFormWindowInterface *formWindow);
-
-private:
-    void write(const ListContents &contents, Vexa::OptionRadios *radios) override;
-    PutBack keepRest(Vexa::OptionRadios *radios) const override;
-};
+inline constexpr char changeOptionRadiosText[] = QT_TRANSLATE_NOOP("Command", "Change OptionRadios Contents");
+using ChangeOptionRadiosCommand = PlainChangeCommand<Vexa::OptionRadios, ListContents, &applyToOptionRadios,
+    changeOptionRadiosText, layOutSlot>;

@@ -7,23 +7,12 @@
 #include <sorrel/SrMatrixPopButtons.h>
 
 /// Leaves the size of the control to its properties "row" and "column".
-class ChangeMatrixBtnsCommand final
-    : public ChangeContentsCommand<Vexa::AbstractMatrixOptions, MatrixContents> {
-public:
-    explicit ChangeMatrixBtnsCommand(QDesignerFormWindowInterface *formWindow);
-
-private:
-    void write(const MatrixContents &contents, Vexa::AbstractMatrixOptions *matrix) override;
-    PutBack keepRest(Vexa::AbstractMatrixOptions *matrix) const override;
-};
+inline constexpr char changeMatrixBtnsText[] = QT_TRANSLATE_NOOP("Command", "Change MatrixButtons Contents");
+using ChangeMatrixBtnsCommand = PlainChangeCommand<Vexa::AbstractMatrixOptions, MatrixContents,
+    &MatrixContents::applyToMatrixButtons, changeMatrixBtnsText, layOutSlot>;
 
 /// Writes the size of the control, too.
-class ChangeMatrixPopBtnsCommand final
-    : public ChangeContentsCommand<Vexa::MatrixPopButtons, MatrixContents> {
-public:
-    explicit ChangeMatrixPopBtnsCommand(QDesignerFormWindowInterface *formWindow);
-
-private:
-    void write(const MatrixContents &contents, Vexa::MatrixPopButtons *matrix) override;
-    PutBack keepRest(Vexa::MatrixPopButtons *matrix) const override;
-};
+inline constexpr char changeMatrixPopBtnsText[]
+    = QT_TRANSLATE_NOOP("Command", "Change MatrixPopButtons Contents");
+using ChangeMatrixPopBtnsCommand = PlainChangeCommand<Vexa::MatrixPopButtons, MatrixContents,
+    &MatrixContents::applyToMatrixPopButtons, changeMatrixPopBtnsText, layOutSlot>;

@@ -175,13 +175,12 @@ void MatrixContents::applyToMatrixPopButtons(Vexa::MatrixPopButtons *matrix) con
     writeLists(*this, matrix);
 }
 
-std::function<void(Vexa::AbstractMatrixOptions *)> MatrixContents::keepLists(
-    Vexa::AbstractMatrixOptions *matrix)
+std::function<void(Vexa::AbstractMatrixOptions *)> keepLists(Vexa::AbstractMatrixOptions *matrix)
 {
     return matrixLists<Vexa::AbstractMatrixOptions>.keep(matrix);
 }
 
-std::function<void(Vexa::MatrixPopButtons *)> MatrixContents::keepLists(Vexa::MatrixPopButtons *matrix)
+std::function<void(Vexa::MatrixPopButtons *)> keepLists(Vexa::MatrixPopButtons *matrix)
 {
     return matrixLists<Vexa::MatrixPopButtons>.keep(matrix);
 }

@@ -49,10 +49,6 @@ struct MatrixContents {
     /// The same, and the size.
     void applyToMatrixPopButtons(Vexa::MatrixPopButtons *matrix) const;
 
-    /// What makes the lists of the control what they are now, to the last entry.
-    static std::function<void(Vexa::AbstractMatrixOptions *)> keepLists(Vexa::AbstractMatrixOptions *matrix);
-    static std::function<void(Vexa::MatrixPopButtons *)> keepLists(Vexa::MatrixPopButtons *matrix);
-
     /// Lets the entries that equal the entry of \a original at the same cell be the same memory as that one.
     void shareEqualCells(const MatrixContents &original);
 
@@ -66,3 +62,7 @@ struct MatrixContents {
         return !(left == right);
     }
 };
+
+/// What makes the lists of the control what they are now, to the last entry.
+std::function<void(Vexa::AbstractMatrixOptions *)> keepLists(Vexa::AbstractMatrixOptions *matrix);
+std::function<void(Vexa::MatrixPopButtons *)> keepLists(Vexa::MatrixPopButtons *matrix);

@@ -1,4 +1,4 @@
-# The installed stand-in as somebody else's control library: with another header extension, and with five things
+# The installed stand-in as somebody else's control library: with another header extension, and with seven things
 # missing, each noticed at another place.
 cmake_minimum_required(VERSION 3.25)
 
@@ -50,19 +50,26 @@ expect_text("Nothing is missing")
 
 file(COPY "${SCRATCH}/hpp/" DESTINATION "${SCRATCH}/broken")
 set(folder "${SCRATCH}/broken/include/nui/Sorrel")
-# For the compiler: two setters and a constructor are not declared.
+# For the compiler: two setters and a constructor are not declared, a class has another base.
+replace_in("${folder}/SrMatrixButtons.hpp" "MatrixCheckBoxes : public AbstractMatrixOptions"
+    "MatrixCheckBoxes : public QWidget")
 replace_in("${folder}/SrComboBox.hpp" "void setActionList(" "void changeActionList(")
 replace_in("${folder}/SrMatrixPopButtons.hpp" "void setColumn(" "void changeColumn(")
 replace_in("${folder}/SrColorPanel.hpp" "explicit ColorPanel(QWidget *parent = nullptr, Qt::WindowFlags flags = {})"
     "explicit ColorPanel(QWidget *parent = nullptr)")
 # For the linker: declared in a way that the library does not have.
 replace_in("${folder}/SrDrawbackBoxGroup.hpp" "void removePage(int index)" "void removePage(long index)")
-# For the running program: a signal under another name.
+# For the running program: a class without Q_OBJECT, a signal under another name.
+file(READ "${folder}/Template/SrAngle.hpp" text)
+string(REPLACE "Q_OBJECT" "" text "${text}")
+file(WRITE "${folder}/Template/SrAngle.hpp" "${text}")
 file(GLOB library "${SCRATCH}/broken/${LIBDIR}/libSorrel.so.*.*.*")
 execute_process(COMMAND sed -z -i "s/^pageTitleChanged$/pageTitleChangex/" "${library}" COMMAND_ERROR_IS_FATAL ANY)
 
 expect_report(broken 1)
-expect_text("lacks 5 of the ")
+expect_text("lacks 7 of the ")
+expect_text("  Vexa::Angle                   (the class)           class Vexa::Angle : public QWidget, with Q_OBJECT, in <nui/Sorrel/Template/SrAngle.hpp>\n")
+expect_text("  Vexa::MatrixCheckBoxes        (the class)           class Vexa::MatrixCheckBoxes : public Vexa::AbstractMatrixOptions, with Q_OBJECT, in <nui/Sorrel/SrMatrixButtons.hpp>\n")
 expect_text("  Vexa::ColorPanel              (constructor)         Vexa::ColorPanel(QWidget *, Qt::WindowFlags)\n")
 expect_text("  Vexa::ComboBox                setActionList         void setActionList(const QStringList &)\n")
 expect_text("  Vexa::DrawbackBoxGroup        removePage            void removePage(int)\n")
@@ -76,6 +83,7 @@ expect_text("is the header extension \".hxx\" right?")
 
 # Whatever the plugin links from the control library stands in the list of what is checked.
 file(READ "${SOURCE}/conformance/operations.txt" operations)
+file(READ "${SOURCE}/plugin/catalogue.h" catalogue)
 execute_process(COMMAND nm -D -C --undefined-only "${PLUGIN}" OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "U Vexa::[A-Za-z]+::[A-Za-z]+\\(" calls "${symbols}")
 list(LENGTH calls count)
@@ -91,6 +99,9 @@ foreach(call IN LISTS calls)
         set(wanted "class ${class} [^\n]+\nconstructor")
     else()
         set(wanted "\nfunction [^\n]*[ *]${operation}\\(")
+    endif()
+    if(short_class STREQUAL operation AND catalogue MATCHES "\"${class}\"")
+        continue() # every control of the catalogue is made so
     endif()
     if(NOT operations MATCHES "${wanted}")
         message(SEND_ERROR "the plugin calls ${class}::${operation}, which operations.txt does not list")

@@ -2,8 +2,11 @@
 #include "contents.h"
 #include "designerhost.h"
 #include "dialoghand.h"
+#include "dialogs.h"
+#include "editcounts.h"
 #include "logwatch.h"
 #include "mutator.h"
+#include "say.h"
 
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerTaskMenuExtension>
@@ -18,8 +21,7 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QDialog>
-#include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QPushButton>
+#include <QtWidgets/QUndoStack>
 
 #include <cstdio>
 
@@ -29,12 +31,15 @@ using FormWindow = qdesigner_internal::FormWindowBase;
 
 constexpr int formsPerProcess = 1000;
 constexpr int mostEdits = 3;
+/// So many forms get round to everything.
+constexpr int formsForEverything = 5000;
 
-void say(const QString &text)
-{
-    std::printf("%s\n", qPrintable(text));
-    std::fflush(stdout);
-}
+/// The form editor that tries one form after the other.
+struct Session {
+    DesignerHost host{{QStringLiteral(PLUGIN_ROOT)}};
+    Choosers choosers{host.core(), QStringLiteral(EXAMPLES "/../icons/hole.png")};
+    EditTally tally;
+};
 
 QVector<QString> startingForms()
 {
@@ -75,38 +80,54 @@ QVector<QString> defaultForms(const DesignerHost &host)
     return forms;
 }
 
-void editSome(DesignerHost &host, FormWindow *form, Random &random)
+void edit(Session &session, FormWindow *form, QWidget *control, Random &random)
 {
-    QVector<QPointer<QWidget>> widgets; // an edit may delete inner widgets of the others
+    auto *menu = qt_extension<QDesignerTaskMenuExtension *>(session.host.core()->extensionManager(), control);
+    if (!menu || !menu->preferredEditAction())
+        return;
+    EditCounts &counts = session.tally.of(control);
+    const QString dialogOwner = QLatin1String(control->metaObject()->className());
+    const int indexBefore = form->commandHistory()->index();
+    withDialogs([menu] { menu->preferredEditAction()->trigger(); },
+        [&](QDialog *dialog) {
+            ++counts.opened;
+            DialogHand hand(random, session.choosers);
+            hand.use(dialog, random.below(6));
+            counts.choosers += hand.chooserCounts();
+            if (!hand.finding().isEmpty())
+                endWithFinding(hand.finding());
+            const bool ok = !random.oneIn(6);
+            counts.cancelled += !ok;
+            if (!closeDialog(dialog, ok))
+                endWithFinding(QStringLiteral("the dialog of %1 does not close").arg(dialogOwner));
+        });
+    counts.changed += form->commandHistory()->index() != indexBefore;
+}
+
+void editSome(Session &session, FormWindow *form, Random &random)
+{
+    QVector<QPointer<QWidget>> controls; // an edit may delete inner widgets of the others
     const auto children = form->mainContainer()->findChildren<QWidget *>();
-    for (QWidget *child : children)
-        widgets += child;
-    int edits = 0;
-    for (const QPointer<QWidget> &widget : qAsConst(widgets)) {
-        if (!widget || !hasContents(widget) || edits >= mostEdits)
-            continue;
-        auto *menu = qt_extension<QDesignerTaskMenuExtension *>(host.core()->extensionManager(), widget);
-        if (!menu || !menu->preferredEditAction())
-            continue;
-        ++edits;
-        withDialogs([menu] { menu->preferredEditAction()->trigger(); },
-            [&random](QDialog *dialog) {
-                DialogHand(random).use(dialog, random.below(3));
-                if (const auto *box = dialog->findChild<QDialogButtonBox *>())
-                    box->button(QDialogButtonBox::Ok)->click();
-            });
+    for (QWidget *child : children) {
+        if (hasContents(child))
+            controls += child;
+    }
+    for (int edits = 0; edits < mostEdits && !controls.isEmpty(); ++edits) {
+        if (const QPointer<QWidget> control = controls.takeAt(random.below(controls.size())))
+            edit(session, form, control, random);
     }
 }
 
 /// Gives whether the form opened.
-bool tryForm(DesignerHost &host, const QString &text, quint32 number)
+bool tryForm(Session &session, const QString &text, int number)
 {
-    Random random(number);
+    DesignerHost &host = session.host;
+    Random random{quint32(number)};
     FormWindow *form = nullptr;
     withDialogs([&] { form = host.openForm(text); }, [](QDialog *) {});
     if (!form || !form->mainContainer())
         return false;
-    editSome(host, form, random);
+    editSome(session, form, random);
     const QString saved = DesignerHost::save(form);
     FormWindow *second = nullptr;
     withDialogs([&] { second = host.openForm(saved); }, [](QDialog *) {});
@@ -124,8 +145,8 @@ bool tryForm(DesignerHost &host, const QString &text, quint32 number)
 int work(int first, int count)
 {
     const LogWatch watch; // Designer has much to say about these forms
-    DesignerHost host({QStringLiteral(PLUGIN_ROOT)});
-    const Mutator mutator(startingForms() + defaultForms(host));
+    Session session;
+    const Mutator mutator(startingForms() + defaultForms(session.host));
     int opened = 0;
     for (int number = first; number < first + count; ++number) {
         const QString text = mutator.form(quint32(number));
@@ -133,25 +154,71 @@ int work(int first, int count)
         if (file.open(QIODevice::WriteOnly))
             file.write(text.toUtf8());
         file.close();
-        reportProgress(QByteArray::number(number) + ' ' + QByteArray::number(opened));
-        opened += tryForm(host, text, quint32(number));
-        reportProgress(QByteArray::number(number) + ' ' + QByteArray::number(opened));
+        for (const bool tried : {false, true}) {
+            if (tried)
+                opened += tryForm(session, text, number);
+            reportProgress(
+                QByteArray::number(number) + ' ' + QByteArray::number(opened), session.tally.toText());
+        }
     }
     QFile::remove(QStringLiteral("hostile-%1.ui").arg(first));
     return 0;
 }
 
-int replay(const QString &path)
+int replay(const QString &path, int number)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         std::fprintf(stderr, "cannot read %s\n", qPrintable(path));
         return 2;
     }
-    DesignerHost host({QStringLiteral(PLUGIN_ROOT)});
-    say(tryForm(host, QString::fromUtf8(file.readAll()), 0) ? QStringLiteral("opened")
-                                                            : QStringLiteral("refused"));
+    Session session;
+    say(tryForm(session, QString::fromUtf8(file.readAll()), number) ? QStringLiteral("opened")
+                                                                    : QStringLiteral("refused"));
     return 0;
+}
+
+/// Tries so many forms, in processes that may end; gives whether nothing was found.
+bool hunt(int first, int forms)
+{
+    QElapsedTimer total;
+    total.start();
+    int done = 0;
+    int opened = 0;
+    int failures = 0;
+    EditTally tally;
+    for (int start = first; start < first + forms;) {
+        const int share = qMin(first + forms - start, formsPerProcess);
+        const ChildResult result = runChild({QStringLiteral("--child"), QStringLiteral("--first"),
+            QString::number(start), QStringLiteral("--forms"), QString::number(share)});
+        const QStringList place = result.progress.simplified().split(QLatin1Char(' '));
+        opened += place.value(1).toInt();
+        tally += EditTally::fromText(result.counts);
+        if (result.ok) {
+            done += share;
+            start += share;
+        } else {
+            ++failures;
+            const int number = place.value(0).toInt();
+            const QString kept = QStringLiteral("hostile-form-%1.ui").arg(number);
+            QFile::rename(QStringLiteral("hostile-%1.ui").arg(start), kept);
+            say(QStringLiteral("FAILED: form %1: %2; try it again with --replay %3 --first %1\n%4")
+                    .arg(number)
+                    .arg(result.end, kept, result.output));
+            done += number - start + 1;
+            start = number + 1;
+        }
+        say(QStringLiteral("%1 forms, %2 of them opened, %3 min")
+                .arg(done)
+                .arg(opened)
+                .arg(double(total.elapsed()) / 60000, 0, 'f', 1));
+    }
+    say(tally.table());
+    const QStringList omissions = done < formsForEverything ? QStringList() : tally.omissions();
+    for (const QString &omission : omissions)
+        say(QLatin1String("FAILED: ") + omission);
+    say(QStringLiteral("%1 forms, %2 opened, %3 findings").arg(done).arg(opened).arg(failures));
+    return failures == 0 && omissions.isEmpty();
 }
 
 } // namespace
@@ -169,47 +236,17 @@ int main(int argc, char *argv[])
             QStringLiteral("0")},
         {QStringLiteral("forms"), QStringLiteral("How many forms."), QStringLiteral("N"),
             QStringLiteral("1000")},
-        {QStringLiteral("replay"), QStringLiteral("Try one form."), QStringLiteral("FILE")},
+        {QStringLiteral("replay"),
+            QStringLiteral("Try one form, edited as the one with the number of --first."),
+            QStringLiteral("FILE")},
         {QStringLiteral("child"), QStringLiteral("Do the work in this process.")},
     });
     parser.process(application);
     const int first = parser.value(QStringLiteral("first")).toInt();
     const int forms = parser.value(QStringLiteral("forms")).toInt();
     if (parser.isSet(QStringLiteral("replay")))
-        return replay(parser.value(QStringLiteral("replay")));
+        return replay(parser.value(QStringLiteral("replay")), first);
     if (parser.isSet(QStringLiteral("child")))
         return work(first, forms);
-
-    QElapsedTimer total;
-    total.start();
-    int done = 0;
-    int opened = 0;
-    int failures = 0;
-    for (int start = first; start < first + forms;) {
-        const int share = qMin(first + forms - start, formsPerProcess);
-        const ChildResult result = runChild({QStringLiteral("--child"), QStringLiteral("--first"),
-            QString::number(start), QStringLiteral("--forms"), QString::number(share)});
-        const QStringList place = result.progress.simplified().split(QLatin1Char(' '));
-        opened += place.value(1).toInt();
-        if (result.ok) {
-            done += share;
-            start += share;
-        } else {
-            ++failures;
-            const int number = place.value(0).toInt();
-            const QString kept = QStringLiteral("hostile-form-%1.ui").arg(number);
-            QFile::rename(QStringLiteral("hostile-%1.ui").arg(start), kept);
-            say(QStringLiteral("FAILED: form %1: %2; kept as %3\n%4")
-                    .arg(number)
-                    .arg(result.end, kept, result.output));
-            done += number - start + 1;
-            start = number + 1;
-        }
-        say(QStringLiteral("%1 forms, %2 of them opened, %3 min")
-                .arg(done)
-                .arg(opened)
-                .arg(double(total.elapsed()) / 60000, 0, 'f', 1));
-    }
-    say(QStringLiteral("%1 forms, %2 opened, %3 findings").arg(done).arg(opened).arg(failures));
-    return failures ? 1 : 0;
+    return hunt(first, forms) ? 0 : 1;
 }

@@ -1,5 +1,5 @@
 #include "contents.h"
-#include "dialoghand.h"
+#include "dialogs.h"
 #include "formtext.h"
 #include "monkey.h"
 
@@ -7,6 +7,7 @@
 
 #include <QtDesigner/QDesignerContainerExtension>
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowManagerInterface>
 #include <QtDesigner/QDesignerMetaDataBaseInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QExtensionManager>
@@ -24,16 +25,20 @@ void Monkey::checkStep(int indexBefore, int countBefore, bool walked)
 {
     const QString now = text();
     const int index = history()->index();
-    if (!walked && index == indexBefore && history()->count() == countBefore) {
+    if (!walked && (index != indexBefore || history()->count() != countBefore)) {
+        // Everything above is a new future.
+        while (!m_texts.isEmpty() && m_texts.lastKey() > indexBefore)
+            m_texts.erase(std::prev(m_texts.end()));
+        while (!m_edits.isEmpty() && m_edits.lastKey() >= indexBefore)
+            m_edits.erase(std::prev(m_edits.end()));
+    }
+    if (!walked && index == indexBefore) {
         // Nothing was pushed, or it joined the step before.
         m_texts.insert(index, now);
         return;
     }
-    if (!walked) {
-        // Everything above is a new future.
-        while (!m_texts.isEmpty() && m_texts.lastKey() > indexBefore)
-            m_texts.erase(std::prev(m_texts.end()));
-    }
+    if (m_newEdit)
+        m_edits.insert(indexBefore, *m_newEdit);
     const auto known = m_texts.constFind(index);
     if (known == m_texts.constEnd())
         m_texts.insert(index, now);
@@ -48,7 +53,6 @@ void Monkey::checkHistory(Random &)
     m_walked = true;
     const int top = history()->index();
     const auto look = [this](const char *direction) {
-        settle();
         const auto known = m_texts.constFind(history()->index());
         const QString now = text();
         if (known == m_texts.constEnd())
@@ -60,11 +64,11 @@ void Monkey::checkHistory(Random &)
                         .arg(history()->text(history()->index()), firstDifference(*known, now)));
     };
     while (history()->canUndo() && m_finding.isEmpty()) {
-        history()->undo();
+        undo();
         look("undo");
     }
     while (history()->index() < top && m_finding.isEmpty()) {
-        history()->redo();
+        redo();
         look("redo");
     }
     if (m_finding.isEmpty())
@@ -82,6 +86,8 @@ void Monkey::checkReload()
     settle();
     compareSaved(saved, DesignerHost::save(second));
     m_host.closeForm(second);
+    // Without an active form most actions are disabled.
+    m_host.core()->formWindowManager()->setActiveFormWindow(m_form);
 }
 
 void Monkey::compareSaved(const QString &saved, const QString &again)
@@ -95,10 +101,8 @@ void Monkey::checkControls()
 {
     if (!m_form || !m_form->mainContainer())
         return;
-    const auto all = m_form->mainContainer()->findChildren<QWidget *>();
-    for (QWidget *widget : all) {
-        if (!hasContents(widget) || !m_form->isManaged(widget))
-            continue;
+    const QList<QWidget *> controls = contentsControls();
+    for (QWidget *widget : controls) {
         const QDesignerPropertySheetExtension *sheet = m_host.propertySheet(widget);
         const QStringList names = contentsProperties(widget);
         for (const QString &name : names) {

@@ -1,4 +1,4 @@
-#include "dialoghand.h"
+#include "dialogs.h"
 #include "monkey.h"
 
 #include <QtDesigner/QDesignerFormEditorInterface>
@@ -37,19 +37,15 @@ void Monkey::preview(Random &random)
 void Monkey::undoSome(Random &random)
 {
     m_walked = true;
-    for (int i = random.below(6); i >= 0 && history()->canUndo(); --i) {
-        history()->undo();
-        ++m_done["undo"];
-    }
+    for (int i = random.below(6); i >= 0 && history()->canUndo(); --i)
+        undo();
 }
 
 void Monkey::redoSome(Random &random)
 {
     m_walked = true;
-    for (int i = random.below(6); i >= 0 && history()->canRedo(); --i) {
-        history()->redo();
-        ++m_done["redo"];
-    }
+    for (int i = random.below(6); i >= 0 && history()->canRedo(); --i)
+        redo();
 }
 
 void Monkey::saveAndReload(Random &)

@@ -17,30 +17,26 @@ bool isProperty(const QDomElement &element, const QString &namePattern)
                .hasMatch();
 }
 
-bool isEmptyEntry(const QDomElement &element)
+/// Of one of these classes.
+bool isCurrentIndexOf(const QDomElement &element, const QStringList &classes)
 {
-    if (element.tagName() == QLatin1String("string"))
-        return element.text().isEmpty() && element.parentNode().nodeName() == QLatin1String("stringlist");
-    return element.tagName() == QLatin1String("item") && element.attributes().isEmpty()
-        && element.parentNode().nodeName() == QLatin1String("widget") && element.text().trimmed().isEmpty();
+    return isProperty(element, QStringLiteral("currentIndex"))
+        && classes.contains(element.parentNode().toElement().attribute(QStringLiteral("class")));
 }
 
 /// The form editor counts entries that it does not save, those with neither text nor icon, as in a QComboBox.
 bool isIndexOfComboBox(const QDomElement &element)
 {
-    return isProperty(element, QStringLiteral("currentIndex"))
-        && element.parentNode().toElement().attribute(QStringLiteral("class"))
-        == QLatin1String("Vexa::ComboBox");
+    return isCurrentIndexOf(element, {QStringLiteral("Vexa::ComboBox")});
 }
 
 bool isOfHistory(const QDomElement &element)
 {
-    if (element.tagName() == QLatin1String("resources") || isEmptyEntry(element))
-        return false;
-    if (isProperty(element, QStringLiteral("currentIndex")))
-        return false;
-    return !isProperty(element, QStringLiteral("text|icon|toolTip|data|action|\\w+(List|Tips)"))
-        || !element.text().trimmed().isEmpty();
+    // Who switches pages takes no step for it.
+    static const QStringList withPages{QStringLiteral("QTabWidget"), QStringLiteral("QToolBox"),
+        QStringLiteral("QStackedWidget"), QStringLiteral("QComboBox"),
+        QStringLiteral("Vexa::DrawbackBoxGroup")};
+    return element.tagName() != QLatin1String("resources") && !isCurrentIndexOf(element, withPages);
 }
 
 /// Of an icon that has a theme alone, which the form editor reads again as one with a file of no name.

@@ -8,9 +8,7 @@
 /// "native". An element per line, indented, for comparison alone.
 QString comparableForm(const QString &ui);
 
-/// The same without what no step of the history covers: current pages, resource files, and the empty entries
-/// of lists (an edit of lists of different lengths makes them equally long, its undo does not shorten them
-/// again).
+/// The same without what no step of the history covers: current pages and resource files.
 QString comparableHistory(const QString &ui);
 
 /// The first line in which two texts differ; empty where there is none.

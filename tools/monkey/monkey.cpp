@@ -1,10 +1,11 @@
 #include "monkey.h"
 
-#include "dialoghand.h"
+#include "dialogs.h"
 
 #include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerFormWindowManagerInterface>
+#include <QtDesigner/QDesignerMetaDataBaseInterface>
 
 #include <private/formwindowbase_p.h>
 
@@ -16,6 +17,7 @@
 Monkey::Monkey(bool withoutControls)
     : m_withoutControls(withoutControls)
     , m_host({QStringLiteral(PLUGIN_ROOT)})
+    , m_choosers(m_host.core(), m_folder.filePath(QStringLiteral("icon.png")))
 {
     QImage image(16, 16, QImage::Format_RGB32);
     image.fill(Qt::red);
@@ -48,9 +50,10 @@ const QVector<Monkey::Row> &Monkey::rows()
         {"layOut", 6, &Monkey::layOut},
         {"usePages", 7, &Monkey::usePages},
         {"showPage", 5, &Monkey::showPage},
-        {"editContents", 14, &Monkey::editContents},
-        {"editAndLose", 1, &Monkey::editAndLose},
-        {"changeProperty", 12, &Monkey::changeProperty},
+        {"editContents", 24, &Monkey::editContents},
+        {"editAndLose", 2, &Monkey::editAndLose},
+        {"changeProperty", 8, &Monkey::changeProperty},
+        {"editLists", 12, &Monkey::editLists},
         {"moveByKeys", 3, &Monkey::moveByKeys},
         {"doubleClick", 3, &Monkey::doubleClick},
         {"switchResources", 2, &Monkey::switchResources},
@@ -101,6 +104,7 @@ QString Monkey::perform(const Step &step)
     const int countBefore = history()->count();
     const QPointer<FormWindow> formBefore = m_form;
     m_walked = false;
+    m_newEdit.reset();
     (this->*row->action)(random);
     settle();
     if (m_finding.isEmpty() && m_form == formBefore)
@@ -155,6 +159,7 @@ Monkey::FormWindow *Monkey::newForm()
 void Monkey::forgetHistory()
 {
     m_texts.clear();
+    m_edits.clear();
     settle();
     m_texts.insert(history()->index(), text());
 }
@@ -166,10 +171,22 @@ QList<QWidget *> Monkey::widgets() const
     QList<QWidget *> all;
     const auto children = m_form->mainContainer()->findChildren<QWidget *>();
     for (QWidget *child : children) {
-        if (m_form->isManaged(child))
+        if (m_form->isManaged(child) && isOnForm(child))
             all += child;
     }
     return all;
+}
+
+bool Monkey::isOnForm(const QWidget *widget) const
+{
+    // Where a drop is undone, the form forgets what was dropped and leaves it hidden, with all that it
+    // brought along still managed.
+    for (; widget && widget != m_form->mainContainer(); widget = widget->parentWidget()) {
+        if (widget->property("_q_formEditorObject").isValid()
+            && !m_host.core()->metaDataBase()->item(const_cast<QWidget *>(widget)))
+            return false;
+    }
+    return widget;
 }
 
 QWidget *Monkey::anyWidget(Random &random) const

@@ -56,7 +56,9 @@ ChildResult runChild(const QStringList &arguments, int patience)
             result.end = QStringLiteral("no progress for %1 s").arg(patience);
         }
     }
-    result.progress = QString::fromUtf8(contents(progress));
+    const QByteArrayList lines = contents(progress).split('\n');
+    result.progress = QString::fromUtf8(lines.value(0));
+    result.counts = lines.value(1);
     result.output = QString::fromUtf8(contents(errors)).right(outputLimit);
     if (result.end.isEmpty()) {
         result.ok = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
@@ -67,14 +69,15 @@ ChildResult runChild(const QStringList &arguments, int patience)
     return result;
 }
 
-void reportProgress(const QByteArray &text)
+void reportProgress(const QByteArray &text, const QByteArray &counts)
 {
     static const QString path = qEnvironmentVariable(progressVariable);
     static QFile file(path);
     if (path.isEmpty() || (!file.isOpen() && !file.open(QIODevice::WriteOnly)))
         return;
     file.seek(0);
-    file.write(text.leftJustified(40));
+    // What is written never gets shorter: counts only grow.
+    file.write(text.leftJustified(40) + '\n' + counts);
     file.flush();
 }
 

@@ -1,36 +1,34 @@
 #pragma once
 
-#include "random.h"
-
-#include <functional>
+#include "choosers.h"
 
 class QDialog;
-class QTreeView;
 
 /// Uses an open contents dialog as a user without a plan would.
 class DialogHand {
 public:
-    explicit DialogHand(Random &random)
+    DialogHand(Random &random, Choosers &choosers)
         : m_random(random)
+        , m_choosers(choosers)
     {
     }
 
     /// A number of random operations; leaves the dialog open unless it went by itself.
     void use(QDialog *dialog, int operations);
 
+    /// What went wrong, empty where nothing did.
+    const QString &finding() const { return m_finding; }
+    /// The choosers that came up meanwhile.
+    const ChooserCounts &chooserCounts() const { return m_chooserCounts; }
+
 private:
     void once(QDialog *dialog);
-    bool press(QDialog *dialog, const char *button);
+    void press(QDialog *dialog, const char *button);
     void useList(QDialog *dialog);
     void useTable(QDialog *dialog);
-    void usePane(QTreeView *pane);
 
     Random &m_random;
+    Choosers &m_choosers;
+    QString m_finding;
+    ChooserCounts m_chooserCounts{};
 };
-
-/// Lets Designer do what it has put off.
-void settle();
-
-/// Runs \a opener and gives the modal dialogs that it opens to \a use, one after the other; what that leaves
-/// open is cancelled.
-void withDialogs(const std::function<void()> &opener, const std::function<void(QDialog *)> &use);
