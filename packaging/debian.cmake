@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # The Debian packages, made by `./dev package`: the plugin, and the stand-in where the plugin is built against it.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "SorrelPlugin")

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # shellcheck shell=bash
 # Sourced by the scripts that photograph the real Qt Designer: a virtual display with a window manager, a settings
 # folder of its own, and a Designer that loads the plugin of one folder alone.

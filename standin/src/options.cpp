@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/template/SrOptionButtons.h>
 #include <nui/Sorrel/template/SrOptionCheckBox.h>
 #include <nui/Sorrel/template/SrOptionComboBox.h>

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # What `cmake --install` puts where, and that none of it knows the folders in which it was built.
 cmake_minimum_required(VERSION 3.25)
 
