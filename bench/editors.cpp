@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The contents dialogs, ours and Designer's own in turn.
 
 #include "application.h"

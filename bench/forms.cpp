@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Forms of a thousand widgets: plain ones with and without the plugin, and our controls beside the floor
 // plugin's.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // What loading the plugin and starting Designer with it costs, counted in instructions by callgrind: this
 // program starts itself under valgrind, which counts what happens inside benchProbe().
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The benchmark: `./dev bench [--quick] [--json FILE]`..
 
 #include "application.h"

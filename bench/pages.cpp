@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // A thousand pages in the drawback box group and in Designer's own multi-page container.
 
 #include "application.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # Whether a control library has what the plugin asks of it, operation by operation.
 #
 # A check of a few tokens is made from each row of operations.txt, and from the rows that follow from the catalogue for

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # The user's own control library: the CMake package in the folder Sorrel_DIR. It defines the target Sorrel::Sorrel
 # and the variable Sorrel_HEADER_EXTENSION, the extension of its headers with the dot.
 find_package(Sorrel CONFIG REQUIRED PATHS "${Sorrel_DIR}" NO_DEFAULT_PATH)

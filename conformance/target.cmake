@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # The target sorrel-conformance: the report on the control library of this build.
 if(TARGET Sorrel)
     set(library_package "$<TARGET_PROPERTY:Sorrel,BINARY_DIR>")

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # Runs PROGRAM --grab FOLDER; fails unless it stays silent and leaves a picture of each of the FORMS.
 file(REMOVE_RECURSE "${FOLDER}")
 # Qt complains of a runtime folder that others may read.

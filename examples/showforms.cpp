@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Shows the example forms, compiled by uic, in the tabs of one window: showforms [--grab FOLDER] [FORM].
 #include "examplemodels.h"
 #include "ui_featurepanel.h"

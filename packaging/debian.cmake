@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # The Debian packages, made by `./dev package`: the plugin, and the stand-in where the plugin is built against it.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "SorrelPlugin")
@@ -39,5 +40,12 @@ set(CPACK_COMPONENT_STANDIN_DESCRIPTION
     "A stand-in for the Sorrel user-interface library, with its class names, include
 paths and properties; headers and CMake package included.")
 set(CPACK_DEBIAN_STANDIN_PACKAGE_SUGGESTS qtbase5-dev) # what the CMake package asks for
+
+# The licence, where Debian looks for that of a package.
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+    string(TOUPPER ${component} name)
+    install(FILES ${CMAKE_CURRENT_LIST_DIR}/copyright
+        DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/${CPACK_DEBIAN_${name}_PACKAGE_NAME} COMPONENT ${component})
+endforeach()
 
 include(CPack)

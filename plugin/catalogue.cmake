@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # sorrel_catalogue(ROWS): the rows of catalogue.h as a list of "Vexa::Class|include/path|objectName", from the header
 # itself: a small program that includes it is made and run when the build is configured.
 

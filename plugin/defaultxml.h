@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
 // The default XML of the controls: what a control starts with when it is dropped from the widget box.

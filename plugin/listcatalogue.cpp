@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Prints the catalogue for the build, a line per control: class, header without extension, object name.
 
 #include "catalogue.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "templatewidgets.h"
 
 #include "extensions/extrainfoextension.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "widgets.h"
 
 #include "editing/propertyeditorrefresh.h"

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: BSD-3-Clause
+# shellcheck shell=bash
 # Sourced by the scripts that photograph the real Qt Designer: a virtual display with a window manager, a settings
 # folder of its own, and a Designer that loads the plugin of one folder alone.
 
@@ -7,7 +9,9 @@ fail() {
 }
 
 cleanup() {
-    ((${#pids[@]})) && kill "${pids[@]}" 2>/dev/null || true
+    if ((${#pids[@]})); then
+        kill "${pids[@]}" 2>/dev/null || true
+    fi
     wait 2>/dev/null || true
     rm -rf "$scratch"
 }
@@ -61,7 +65,7 @@ start_designer() { # [FORM.ui ...]
 
 # Waits until two pictures of the screen in a row are the same; the last one is $scratch/shot.png.
 settle() {
-    local previous= now
+    local previous='' now
     for _ in $(seq 40); do
         kill -0 "$designer" 2>/dev/null || fail "Designer ended: $(tail -n 3 "$scratch/designer.log")"
         import -window root "$scratch/shot.png"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // embed FORM.ui [PICTURE.png]: edits the form; with a picture, only shows the window and saves how it looks.
 
 #include "base.h"

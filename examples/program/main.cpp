@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // program [--ui FORM.ui] [--plugins FOLDER] [--translation FILE.qm] [--dump]: shows the form that is compiled
 // into it or another one, or prints what the controls of the form hold.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "drawbackboxhold.h"
 
 #include <sorrel/SrDrawbackBoxGroup.h>
@@ -8,8 +9,8 @@
 #include <QtDesigner/QDesignerFormWindowInterface>
 
 struct DrawbackBoxHold::Shared {
-    explicit Shared(Vexa::DrawbackBox *box)
-        : box(box)
+    explicit Shared(Vexa::DrawbackBox *heldBox)
+        : box(heldBox)
     {
     }
     ~Shared()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "matrixeditors.h"
 #include "ui_matrixpushbuttonseditor.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "abstractitemeditor.h"
 #include "cachedicons.h"
 #include "designereditorfactory.h"

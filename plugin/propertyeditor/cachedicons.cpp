@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "cachedicons.h"
 
 #include <private/qdesigner_utils_p.h>

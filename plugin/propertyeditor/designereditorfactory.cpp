@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "designereditorfactory.h"
 #include "designerpropertymanager.h"
 #include "pixmapeditor.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "hosttranslation.h"
 
 // The part of the host's base library that is used here. The symbols are weak: the dynamic linker fills them

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "iconthemedialog.h"
 
 #include <private/iconselector_p.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "itemlisteditor.h"
 #include "cachedicons.h"
 #include "ui_itemlisteditor.h"

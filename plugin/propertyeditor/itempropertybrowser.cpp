@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "itempropertybrowser.h"
 #include "propertydelegate.h"
 #include "propertytreemodel.h"

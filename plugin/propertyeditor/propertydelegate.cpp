@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "propertydelegate.h"
 #include "designereditorfactory.h"
 #include "propertyrow.h"

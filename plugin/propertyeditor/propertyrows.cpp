@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "propertyrows.h"
 #include "cachedicons.h"
 #include "designerpropertymanager.h"

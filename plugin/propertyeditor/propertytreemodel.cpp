@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "propertytreemodel.h"
 #include "designerpropertymanager.h"
 #include "propertyrow.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "resetdecorator.h"
 
 #include <private/iconloader_p.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/SrColorButton.h>
 #include <nui/Sorrel/Template/ColorTransfer.h>
 #include <nui/Sorrel/Template/SrColor.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/SrDrawbackBoxGroup.h>
 
 #include <QtCore/QCoreApplication>

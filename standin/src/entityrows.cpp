@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/Template/SrEntity.h>
 #include <nui/Sorrel/Template/SrEntityList.h>
 #include <nui/Sorrel/Template/SrEntityTable.h>

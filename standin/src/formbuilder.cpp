@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/SrFormBuilder.h>
 
 #include <nui/Sorrel/SrComboBox.h>

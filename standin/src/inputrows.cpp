@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/Template/SrCmdButton.h>
 #include <nui/Sorrel/Template/SrString.h>
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "keptitems.h"
 
 #include <private/ui4_p.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/SrLine.h>
 #include <nui/Sorrel/SrLineType.h>
 #include <nui/Sorrel/SrLineWidth.h>

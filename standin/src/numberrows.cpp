@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/Template/SrAngle.h>
 #include <nui/Sorrel/Template/SrDistance.h>
 #include <nui/Sorrel/Template/SrNumber.h>

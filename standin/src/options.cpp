@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/template/SrOptionButtons.h>
 #include <nui/Sorrel/template/SrOptionCheckBox.h>
 #include <nui/Sorrel/template/SrOptionComboBox.h>
@@ -67,9 +68,9 @@ void AbstractOptions::setToolTips(const QStringList &toolTips)
     showOptions();
 }
 
-void AbstractOptions::setDataList(const QStringList &data)
+void AbstractOptions::setDataList(const QStringList &dataList)
 {
-    m_data = data;
+    m_data = dataList;
     showOptions();
 }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/Template/SrPickRow.h>
 #include <nui/Sorrel/Template/SrPoint.h>
 #include <nui/Sorrel/Template/SrWindow.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "strokebox.h"
 
 #include <QtGui/QPainter>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/SrListView.h>
 #include <nui/Sorrel/SrListWidget.h>
 #include <nui/Sorrel/SrTableWidget.h>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "testdata.h"
 
 #include <nui/Sorrel/SrDrawbackBoxGroup.h>

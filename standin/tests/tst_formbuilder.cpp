@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "testdata.h"
 
 #include <nui/Sorrel/SrComboBox.h>
@@ -112,8 +113,9 @@ const Load loads[] = {
         {}, texts + data},
     {"actions of older forms", makeControl<ComboBox>, item(a) + item(a + go), {}, {},
         QStringList(QString()) + words("go"),
-        QStringLiteral("<property name=\"actionList\"><stringlist notr=\"true\"><string></string><string>go</string>"
-                       "</stringlist></property>")},
+        QStringLiteral(
+            "<property name=\"actionList\"><stringlist notr=\"true\"><string></string><string>go</string>"
+            "</stringlist></property>")},
     {"property before items", makeControl<OptionButtons>, texts + item(value(itemText, "text", "c") + one),
         words("a b"), words("1"), {}, texts + data},
     {"comments and foreign properties", makeControl<OptionButtons>, item(a + foreign) + item(noted),

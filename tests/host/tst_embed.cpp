@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The window of the embedding example: an application with its own words for the property pane.
 
 #include "base.h"

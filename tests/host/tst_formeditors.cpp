@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "designerhost.h"
 #include "quiettest.h"
 #include "testdata.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Writes the form that package.program compiles, loads and runs, and what the program has to have then.
 
 #include "contentsdump.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The command-line companion, as a process: what it says of good, bad and hostile forms.
 
 #include "sorrelformprocess.h"

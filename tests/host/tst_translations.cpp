@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // The installed catalogues: menus, dialogs and undo texts in the languages of the host.
 
 #include "editingtest.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # The catalogues have every text of the sources, translated, and none besides.
 cmake_minimum_required(VERSION 3.25)
 

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # The installed stand-in as somebody else's control library: with another header extension, and with seven things
 # missing, each noticed at another place.
 cmake_minimum_required(VERSION 3.25)

@@ -1,4 +1,5 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: BSD-3-Clause
 # doctor.sh SOURCE BUILD SCRATCH: one broken installation after the other, and whether the doctor names it.
 set -euo pipefail
 source=$1 build=$2 scratch=$3

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # What `cmake --install` puts where, and that none of it knows the folders in which it was built.
 cmake_minimum_required(VERSION 3.25)
 
@@ -12,6 +13,8 @@ foreach(file
         "${TRANSLATIONS}/sorrelplugin_zh_CN.qm"
         "${PREFIX}/${LIBDIR}/libSorrel.so"
         "${PREFIX}/bin/sorrel-form"
+        "${PREFIX}/share/doc/sorrel-designer-plugin/copyright"
+        "${PREFIX}/share/doc/sorrel-standin/copyright"
         "${PREFIX}/${LIBDIR}/cmake/Sorrel/SorrelConfig.cmake"
         "${PREFIX}/${LIBDIR}/cmake/SorrelPlugin/SorrelPluginConfig.cmake"
         "${PREFIX}/include/nui/Sorrel/SrComboBox.h"

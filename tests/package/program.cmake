@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: BSD-3-Clause
 # A program outside of this project: what its forms hold in Designer it has too, compiled by uic and loaded by QUiLoader.
 cmake_minimum_required(VERSION 3.25)
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "panedriver.h"
 #include "quiettest.h"
 #include "testdata.h"
@@ -177,10 +178,10 @@ private slots:
         Editor editor(2);
         editor.showPane();
         const auto log = [&](const char *value, const char *shown) {
-            QStringList log{QStringLiteral("changed 0 %1 %2").arg(field.role).arg(QLatin1String(value))};
+            QStringList lines{QStringLiteral("changed 0 %1 %2").arg(field.role).arg(QLatin1String(value))};
             if (field.twin)
-                log += QStringLiteral("changed 0 %1 text %2").arg(field.twin).arg(QLatin1String(shown));
-            return log;
+                lines += QStringLiteral("changed 0 %1 text %2").arg(field.twin).arg(QLatin1String(shown));
+            return lines;
         };
         editor.log.clear();
         editor.pane.type(row, QStringLiteral("x"));

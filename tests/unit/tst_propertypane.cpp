@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "designerhost.h"
 #include "dialog.h"
 #include "panedriver.h"
@@ -174,14 +175,12 @@ private slots:
             PropertySheetStringValue(QStringLiteral("t"), false, QStringLiteral("d"), QStringLiteral("c")));
         QVERIFY(!pane.isModified(comment));
         QVERIFY(pane.open(comment));
-        QVERIFY(!pane.resetButton(comment));
-        QVERIFY(!pane.moreButton(comment));
+        QVERIFY(!pane.resetButton(comment) && !pane.moreButton(comment));
     }
 
     void textsMayHaveSeveralLines()
     {
-        const QPair<QString, QString> texts[] = {{QStringLiteral("a\\nb"), QStringLiteral("a\nb")},
-            {QStringLiteral("a\\\\b"), QStringLiteral("a\\b")},
+        const QPair<QString, QString> texts[] = {{QStringLiteral("a\\nb\\\\c"), QStringLiteral("a\nb\\c")},
             {QStringLiteral("a\\"), QStringLiteral("a\\")},
             {QStringLiteral("\"a\" & 'b' <c>"), QStringLiteral("\"a\" & 'b' <c>")}};
         for (const auto &[typed, value] : texts) {
@@ -284,8 +283,7 @@ private slots:
 
         pane.reset(QStringLiteral("icon/Normal Off"));
         QVERIFY(!m_pane->item->data(28).isValid());
-        QVERIFY(!pane.isModified(icon));
-        QVERIFY(m_pane->item->icon().isNull());
+        QVERIFY(!pane.isModified(icon) && m_pane->item->icon().isNull());
         choose(icon, "");
         QVERIFY(!m_pane->item->data(28).isValid());
     }
@@ -294,12 +292,12 @@ private slots:
     {
         // The button asks again where the icon is from.
         const auto title = [this] {
-            QString title;
-            m_pane->usesDialog(icon, [&title](QDialog *dialog) {
-                title = dialog->windowTitle();
+            QString shown;
+            m_pane->usesDialog(icon, [&shown](QDialog *dialog) {
+                shown = dialog->windowTitle();
                 dialog->reject();
             });
-            return title;
+            return shown;
         };
         m_pane->driver.open(icon);
         QCOMPARE(title(), QStringLiteral("Select Resource"));

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Reads a <widget> element of any form into a control and writes it again, as opening and saving a form do.
 
 #include <sorrel/SrComboBox.h>

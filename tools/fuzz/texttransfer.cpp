@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // Takes texts through contents, an editor's list and a control and ends where one is lost on the way.
 
 #include "editing/controlcontents.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "logwatch.h"
 
 #include <QtCore/QRegularExpression>
@@ -56,9 +57,6 @@ void LogWatch::allow(const QString &pattern)
     state->allowed += QRegularExpression(QRegularExpression::anchoredPattern(pattern));
 }
 
-QStringList LogWatch::takeUnexpected()
-{
-    return std::exchange(state->unexpected, {});
-}
+QStringList LogWatch::takeUnexpected() { return std::exchange(state->unexpected, {}); }
 
 QStringList LogWatch::all() const { return state->all; }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "campaign.h"
 #include "failure.h"
 #include "monkey.h"

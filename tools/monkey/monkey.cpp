@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "monkey.h"
 
 #include "dialogs.h"
@@ -96,7 +97,7 @@ void Monkey::begin()
 QString Monkey::perform(const Step &step)
 {
     const auto row = std::find_if(
-        rows().cbegin(), rows().cend(), [&step](const Row &row) { return step.action == row.name; });
+        rows().cbegin(), rows().cend(), [&step](const Row &any) { return step.action == any.name; });
     if (row == rows().cend())
         return QStringLiteral("no such action: ") + QString::fromUtf8(step.action);
     Random random(step.seed);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "dialoghand.h"
 #include "dialogs.h"
 #include "monkey.h"
@@ -38,13 +39,15 @@ const char *const others[]
 /// A widget of Designer's own that a form holds as it holds this control.
 QString counterpart(const QString &name)
 {
-    static const QHash<QString, QString> others{
+    static const QHash<QString, QString> counterparts{
         {QStringLiteral("Vexa::DrawbackBoxGroup"), QStringLiteral("Stacked Widget")},
         {QStringLiteral("Vexa::Form"), QStringLiteral("Frame")},
         {QStringLiteral("Vexa::Line"), QStringLiteral("Horizontal Line")},
         {QStringLiteral("Vexa::Pane"), QStringLiteral("Frame")},
     };
-    return name.startsWith(QLatin1String("Vexa::")) ? others.value(name, QStringLiteral("Combo Box")) : name;
+    if (!name.startsWith(QLatin1String("Vexa::")))
+        return name;
+    return counterparts.value(name, QStringLiteral("Combo Box"));
 }
 
 QString withoutMnemonic(QString text) { return text.remove(QLatin1Char('&')); }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 // sorrel-form: forms with the controls, checked, rendered and normalized from the command line.
 
 #include "designerhost.h"

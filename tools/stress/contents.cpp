@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: BSD-3-Clause
 #include "contents.h"
 
 #include <sorrel/SrComboBox.h>
