@@ -36,7 +36,7 @@ constexpr int mostEdits = 3;
 constexpr int formsForEverything = 5000;
 
 /// The form editor that tries one form after the other.
-struct Session {
+struct Hunt {
     DesignerHost host{{QStringLiteral(PLUGIN_ROOT)}};
     Choosers choosers{host.core(), QStringLiteral(EXAMPLES "/../icons/hole.png")};
     EditTally tally;
@@ -81,18 +81,18 @@ QVector<QString> defaultForms(const DesignerHost &host)
     return forms;
 }
 
-void edit(Session &session, FormWindow *form, QWidget *control, Random &random)
+void edit(Hunt &hunt, FormWindow *form, QWidget *control, Random &random)
 {
-    auto *menu = qt_extension<QDesignerTaskMenuExtension *>(session.host.core()->extensionManager(), control);
+    auto *menu = qt_extension<QDesignerTaskMenuExtension *>(hunt.host.core()->extensionManager(), control);
     if (!menu || !menu->preferredEditAction())
         return;
-    EditCounts &counts = session.tally.of(control);
+    EditCounts &counts = hunt.tally.of(control);
     const QString dialogOwner = QLatin1String(control->metaObject()->className());
     const int indexBefore = form->commandHistory()->index();
     withDialogs([menu] { menu->preferredEditAction()->trigger(); },
         [&](QDialog *dialog) {
             ++counts.opened;
-            DialogHand hand(random, session.choosers);
+            DialogHand hand(random, hunt.choosers);
             hand.use(dialog, random.below(6));
             counts.choosers += hand.chooserCounts();
             if (!hand.finding().isEmpty())
@@ -105,7 +105,7 @@ void edit(Session &session, FormWindow *form, QWidget *control, Random &random)
     counts.changed += form->commandHistory()->index() != indexBefore;
 }
 
-void editSome(Session &session, FormWindow *form, Random &random)
+void editSome(Hunt &hunt, FormWindow *form, Random &random)
 {
     QVector<QPointer<QWidget>> controls; // an edit may delete inner widgets of the others
     const auto children = form->mainContainer()->findChildren<QWidget *>();
@@ -115,20 +115,20 @@ void editSome(Session &session, FormWindow *form, Random &random)
     }
     for (int edits = 0; edits < mostEdits && !controls.isEmpty(); ++edits) {
         if (const QPointer<QWidget> control = controls.takeAt(random.below(controls.size())))
-            edit(session, form, control, random);
+            edit(hunt, form, control, random);
     }
 }
 
 /// Gives whether the form opened.
-bool tryForm(Session &session, const QString &text, int number)
+bool tryForm(Hunt &hunt, const QString &text, int number)
 {
-    DesignerHost &host = session.host;
+    DesignerHost &host = hunt.host;
     Random random{quint32(number)};
     FormWindow *form = nullptr;
     withDialogs([&] { form = host.openForm(text); }, [](QDialog *) {});
     if (!form || !form->mainContainer())
         return false;
-    editSome(session, form, random);
+    editSome(hunt, form, random);
     const QString saved = DesignerHost::save(form);
     FormWindow *second = nullptr;
     withDialogs([&] { second = host.openForm(saved); }, [](QDialog *) {});
@@ -146,8 +146,8 @@ bool tryForm(Session &session, const QString &text, int number)
 int work(int first, int count)
 {
     const LogWatch watch; // Designer has much to say about these forms
-    Session session;
-    const Mutator mutator(startingForms() + defaultForms(session.host));
+    Hunt hunt;
+    const Mutator mutator(startingForms() + defaultForms(hunt.host));
     int opened = 0;
     for (int number = first; number < first + count; ++number) {
         const QString text = mutator.form(quint32(number));
@@ -157,9 +157,9 @@ int work(int first, int count)
         file.close();
         for (const bool tried : {false, true}) {
             if (tried)
-                opened += tryForm(session, text, number);
+                opened += tryForm(hunt, text, number);
             reportProgress(
-                QByteArray::number(number) + ' ' + QByteArray::number(opened), session.tally.toText());
+                QByteArray::number(number) + ' ' + QByteArray::number(opened), hunt.tally.toText());
         }
     }
     QFile::remove(QStringLiteral("hostile-%1.ui").arg(first));
@@ -173,9 +173,9 @@ int replay(const QString &path, int number)
         std::fprintf(stderr, "cannot read %s\n", qPrintable(path));
         return 2;
     }
-    Session session;
-    say(tryForm(session, QString::fromUtf8(file.readAll()), number) ? QStringLiteral("opened")
-                                                                    : QStringLiteral("refused"));
+    Hunt hunt;
+    say(tryForm(hunt, QString::fromUtf8(file.readAll()), number) ? QStringLiteral("opened")
+                                                                 : QStringLiteral("refused"));
     return 0;
 }
 
