@@ -91,7 +91,8 @@ QString DrawbackBoxGroup::pageTitle(int index) const
 void DrawbackBoxGroup::setPageTitle(const QString &title)
 {
     QWidget *page = widget(m_current);
-    if (page && title != pageTitle(m_current))
+    // The number that a page had before it moved is no title either.
+    if (page && title != pageTitle(m_current) && title != box(m_current)->shownTitle())
         page->setWindowTitle(title);
 }
 

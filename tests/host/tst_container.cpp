@@ -12,7 +12,6 @@
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QExtensionManager>
 
-#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QTreeView>
 #include <QtWidgets/QUndoStack>
 
@@ -140,36 +139,6 @@ private slots:
         m_form->commandHistory()->undo();
         QCOMPARE(m_group->currentIndex(), 1);
         QCOMPARE(m_form->cursor()->selectedWidget(0), line);
-    }
-
-    void titleEditedInItsBarIsOneUndoStep()
-    {
-        m_group->setGeometry(10, 10, 250, 300);
-        QVERIFY(trigger(m_form, m_group, "Insert Page After Current Page"));
-        const QString before = saved();
-        QVERIFY(!before.contains(QLatin1String("windowTitle")));
-        Vexa::DrawbackBox *box = m_group->box(1);
-        QTRY_COMPARE(box->shownTitle(), QStringLiteral("Page 2"));
-        for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return}) {
-            QTest::mouseDClick(box, Qt::LeftButton, {}, {30, 5});
-            auto *editor = box->findChild<QLineEdit *>();
-            QVERIFY(editor && editor->isVisible());
-            QCOMPARE(editor->selectedText(), QStringLiteral("Page 2"));
-            QTest::keyClicks(editor, QStringLiteral("Holes"));
-            QTest::keyClick(editor, end);
-            QTRY_VERIFY(!box->findChild<QLineEdit *>());
-            QCOMPARE(box->shownTitle(), QLatin1String(end == Qt::Key_Return ? "Holes" : "Page 2"));
-        }
-        QUndoStack *history = m_form->commandHistory();
-        QCOMPARE(history->index(), 3); // drop, page, title
-        const QString after = saved();
-        QVERIFY(after.contains(QLatin1String("<string>Holes</string>")));
-        for (int round = 0; round < 2; ++round) {
-            history->undo();
-            compareTexts(saved(), before);
-            history->redo();
-            compareTexts(saved(), after);
-        }
     }
 
     void propertyEditorShowsThePageThatInsertingMadeCurrent()

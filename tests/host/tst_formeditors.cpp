@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "designerhost.h"
 #include "quiettest.h"
+#include "testdata.h"
 
 #include <private/formwindowbase_p.h>
-
-#include <QtCore/QFile>
 
 namespace {
 
 constexpr char example[] = EXAMPLES "/featurepanel.ui";
 
-QString exampleText()
-{
-    QFile file(QString::fromLatin1(example));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
+QString exampleText() { return formText(QString::fromLatin1(example)); }
 
 QString reopened(DesignerHost &host)
 {

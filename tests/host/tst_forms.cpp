@@ -9,10 +9,7 @@
 #include <QtDesigner/QExtensionManager>
 
 #include <QtCore/QDir>
-#include <QtCore/QTemporaryDir>
-#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAction>
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QUndoStack>
 
 namespace {
@@ -49,9 +46,8 @@ private slots:
     void examplesAreStable()
     {
         QFETCH(QString, fileName);
-        QFile file(fileName);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(file.readAll());
+        const QString text = formText(fileName);
+        QVERIFY(!text.isEmpty());
         compareTexts(reopened(text, fileName), text);
     }
 
@@ -92,38 +88,6 @@ private slots:
             QVERIFY(saved.count(QLatin1String("<property name=\"") + list + QLatin1Char('"')) <= 1);
         }
         compareTexts(DesignerHost::save(second), saved);
-    }
-
-    void iconFilesBelongToTheFolderOfTheForm()
-    {
-        QTemporaryDir folder;
-        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("forms/icons")));
-        const QString image = folder.filePath(QStringLiteral("forms/icons/red.png"));
-        QVERIFY(saveImage(image) && saveImage(folder.filePath(QStringLiteral("up.png"))));
-        const QString ui = formWith(widget("OptionComboBox",
-            prop("iconList",
-                "<stringlist notr=\"true\"><string>icons/red.png</string><string>../up.png</string>"
-                "<string>:/none.png</string><string/></stringlist>")));
-        FormWindow *form = open(ui, folder.filePath(QStringLiteral("forms/form.ui")));
-        auto *combo = find<QWidget>(form, QStringLiteral("w"));
-        QCOMPARE(combo->property("iconList").toStringList(),
-            (QStringList{image, folder.filePath(QStringLiteral("up.png"))} << words(":/none.png")
-                                                                           << QString()));
-        QVERIFY(!combo->findChild<QComboBox *>()->itemIcon(1).isNull());
-        const QString saved = DesignerHost::save(form);
-        for (const char *path : {"<string>icons/red.png<", "<string>../up.png<", "<string>:/none.png<"})
-            QCOMPARE(saved.count(QLatin1String(path)), 1);
-        // Written by the form editor or by the control library, and from wherever the form is saved.
-        combo->setProperty("iconList", QStringList{image});
-        form->setFileName(folder.filePath(QStringLiteral("other.ui")));
-        QVERIFY(DesignerHost::save(form).contains(QLatin1String("<string>forms/icons/red.png<")));
-        QWidget *buttons = drop(form, "OptionButtons");
-        buttons->setProperty("iconList", QStringList{image});
-        QCOMPARE(DesignerHost::save(form).count(QLatin1String("<string>forms/icons/red.png<")), 2);
-        // A relative path that was typed shows its icon at once.
-        buttons->setProperty("iconList", words("up.png"));
-        QVERIFY(QMetaObject::invokeMethod(buttons, "updateGeomtries"));
-        QVERIFY(!buttons->findChild<QAbstractButton *>()->icon().isNull());
     }
 
     void copyAndPasteKeepsExtraData()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <QtCore/QFile>
 #include <QtCore/QStringList>
 #include <QtGui/QImage>
 #include <QtTest/QtTest>
@@ -28,6 +29,16 @@ inline QString formWith(const QString &inside, const QString &afterwards = QStri
                          "<height>500</height></rect></property>")
         + inside + QLatin1String("</widget>") + afterwards + QLatin1String("</ui>");
 }
+
+#ifdef HEADER_EXTENSION
+/// The text of a form, with the header files that the control library of this build has. Empty for no file.
+inline QString formText(const QString &fileName)
+{
+    QFile file(fileName);
+    QString text = file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return text.replace(QLatin1String(".h</header>"), QLatin1String(HEADER_EXTENSION "</header>"));
+}
+#endif
 
 /// Writes a small red picture.
 inline bool saveImage(const QString &path)

@@ -72,11 +72,13 @@ void Monkey::changeProperty(Random &random)
     const QString name = sheet->propertyName(index);
     // Names have to stay unique, a size or a hidden widget makes the rest of the steps pointless, Designer
     // takes back a least size but not the growth that came with it, a combo box has its items in the first
-    // column whatever the one that it shows, and one that follows its contents takes its size a moment later.
+    // column whatever the one that it shows, one that follows its contents takes its size a moment later, and
+    // a style sheet switches the background of a line edit off.
     static const QStringList kept{QStringLiteral("objectName"), QStringLiteral("layoutName"),
         QStringLiteral("minimumSize"), QStringLiteral("maximumSize"), QStringLiteral("maximumWidth"),
         QStringLiteral("maximumHeight"), QStringLiteral("visible"), QStringLiteral("enabled"),
-        QStringLiteral("modelColumn"), QStringLiteral("sizeAdjustPolicy")};
+        QStringLiteral("modelColumn"), QStringLiteral("sizeAdjustPolicy"),
+        QStringLiteral("autoFillBackground")};
     if (!sheet->isVisible(index) || kept.contains(name))
         return;
     ++m_done["changeProperty"];

@@ -102,7 +102,7 @@ public:
     DrawbackBox *box(int index) const;
     /// The window title of the page; "Page 1" and so on for a page that has none.
     QString pageTitle(int index) const;
-    /// Sets the title of the current page, unless pageTitle() gives it as it is.
+    /// Sets the title of the current page, unless it is shown already for a page that has none.
     void setPageTitle(const QString &title);
 
     /// Null and pages that the group has already are ignored.

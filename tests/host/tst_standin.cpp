@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "hosttest.h"
+#include "testdata.h"
+
+#include <sorrel/SrDrawbackBoxGroup.h>
+
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QUndoStack>
+
+/// What the stand-in chooses for itself, in the form editor; other control libraries may do otherwise.
+class TestStandIn : public HostTest {
+    Q_OBJECT
+
+private slots:
+    void iconFilesBelongToTheFolderOfTheForm()
+    {
+        QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkpath(QStringLiteral("forms/icons")));
+        const QString image = folder.filePath(QStringLiteral("forms/icons/red.png"));
+        QVERIFY(saveImage(image) && saveImage(folder.filePath(QStringLiteral("up.png"))));
+        const QString ui = formWith(QStringLiteral(
+            "<widget class=\"Vexa::OptionComboBox\" name=\"w\"><property name=\"iconList\"><stringlist "
+            "notr=\"true\">"
+            "<string>icons/red.png</string><string>../up.png</string><string>:/none.png</string><string/>"
+            "</stringlist></property></widget>"));
+        FormWindow *form = open(ui, folder.filePath(QStringLiteral("forms/form.ui")));
+        auto *combo = find<QWidget>(form, QStringLiteral("w"));
+        QCOMPARE(combo->property("iconList").toStringList(),
+            (QStringList{image, folder.filePath(QStringLiteral("up.png"))} << words(":/none.png")
+                                                                           << QString()));
+        QVERIFY(!combo->findChild<QComboBox *>()->itemIcon(1).isNull());
+        const QString saved = DesignerHost::save(form);
+        for (const char *path : {"<string>icons/red.png<", "<string>../up.png<", "<string>:/none.png<"})
+            QCOMPARE(saved.count(QLatin1String(path)), 1);
+        // Written by the form editor or by the control library, and from wherever the form is saved.
+        combo->setProperty("iconList", QStringList{image});
+        form->setFileName(folder.filePath(QStringLiteral("other.ui")));
+        QVERIFY(DesignerHost::save(form).contains(QLatin1String("<string>forms/icons/red.png<")));
+        QWidget *buttons = drop(form, "OptionButtons");
+        buttons->setProperty("iconList", QStringList{image});
+        QCOMPARE(DesignerHost::save(form).count(QLatin1String("<string>forms/icons/red.png<")), 2);
+        // A relative path that was typed shows its icon at once.
+        buttons->setProperty("iconList", words("up.png"));
+        QVERIFY(QMetaObject::invokeMethod(buttons, "updateGeomtries"));
+        QVERIFY(!buttons->findChild<QAbstractButton *>()->icon().isNull());
+    }
+
+    void titleEditedInItsBarIsOneUndoStep()
+    {
+        m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged \\d+"));
+        FormWindow *form = newForm();
+        auto *group = qobject_cast<Vexa::DrawbackBoxGroup *>(drop(form, "DrawbackBoxGroup"));
+        group->setGeometry(10, 10, 250, 300);
+        QVERIFY(trigger(form, group, "Insert Page After Current Page"));
+        const auto saved = [form] { return DesignerHost::save(form); };
+        const QString before = saved();
+        QVERIFY(!before.contains(QLatin1String("windowTitle")));
+        Vexa::DrawbackBox *box = group->box(1);
+        QTRY_COMPARE(box->shownTitle(), QStringLiteral("Page 2"));
+        for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return}) {
+            QTest::mouseDClick(box, Qt::LeftButton, {}, {30, 5});
+            auto *editor = box->findChild<QLineEdit *>();
+            QVERIFY(editor && editor->isVisible());
+            QCOMPARE(editor->selectedText(), QStringLiteral("Page 2"));
+            QTest::keyClicks(editor, QStringLiteral("Holes"));
+            QTest::keyClick(editor, end);
+            QTRY_VERIFY(!box->findChild<QLineEdit *>());
+            QCOMPARE(box->shownTitle(), QLatin1String(end == Qt::Key_Return ? "Holes" : "Page 2"));
+        }
+        QUndoStack *history = form->commandHistory();
+        QCOMPARE(history->index(), 3); // drop, page, title
+        const QString after = saved();
+        QVERIFY(after.contains(QLatin1String("<string>Holes</string>")));
+        for (int round = 0; round < 2; ++round) {
+            history->undo();
+            compareTexts(saved(), before);
+            history->redo();
+            compareTexts(saved(), after);
+        }
+    }
+};
+
+QTEST_MAIN(TestStandIn)
+#include "tst_standin.moc"
