@@ -41,6 +41,9 @@ public:
     /// would follow widget and extension by signals, which takes three times the memory of the extension for
     /// every widget of every form.
     QObject *extension(QObject *object, const QString &iid) const override;
+    /// How many are remembered, those of dead widgets too until they are forgotten. For a test, which cannot
+    /// see it otherwise.
+    int knownCount() const { return m_known.size(); }
 
 protected:
     /// The extension has no parent: it belongs to nobody and lasts for the rest of the run, one per widget.
