@@ -28,17 +28,17 @@ ContentsDialog::ContentsDialog(
 {
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
 
-    auto buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     connect(buttons, SIGNAL(accepted()), this, SLOT(accept()));
     connect(buttons, SIGNAL(rejected()), this, SLOT(reject()));
 
     m_editor->layout()->setContentsMargins(0, 0, 0, 0);
     m_editor->setNewItemText(newItemText);
 
-    auto separator = new QFrame(this);
+    auto *separator = new QFrame(this);
     separator->setFrameStyle(int(QFrame::HLine) | int(QFrame::Sunken));
 
-    auto layout = new QVBoxLayout(this);
+    auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_editor);
     layout->addWidget(separator);
     layout->addWidget(buttons);

@@ -83,7 +83,7 @@ bool ContentsTaskMenu::editContents(Contents (Dialog::*fill)(Control *))
             const Contents newContents = dialog.contents();
             if (newContents == oldContents)
                 return nullptr;
-            auto command = new Command(formWindow()); // belongs to the form's undo stack
+            auto *command = new Command(formWindow()); // belongs to the form's undo stack
             command->init(control, oldContents, newContents);
             return command;
         });

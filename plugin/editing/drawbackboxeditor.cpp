@@ -77,9 +77,9 @@ QVector<DrawbackBoxHold> DrawbackBoxEditor::makeBoxes(int count) const
     QVector<DrawbackBoxHold> boxes;
     QStringList pageNames;
     for (int i = 0; m_form && i < count; ++i) {
-        auto box = new Vexa::DrawbackBox; // belongs to its holds until a group has it
+        auto *box = new Vexa::DrawbackBox; // belongs to its holds until a group has it
         boxes.append(DrawbackBoxHold(box));
-        auto page = new QDesignerWidget(m_form, box);
+        auto *page = new QDesignerWidget(m_form, box);
         nameNewPage(page, m_form, pageNames);
         pageNames.append(page->objectName());
         page->setWindowTitle(QStringLiteral("test"));

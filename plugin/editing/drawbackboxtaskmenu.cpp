@@ -16,7 +16,7 @@ void DrawbackBoxTaskMenu::editItems()
         const DrawbackBoxContents newContents = dialog.contents();
         if (dialog.initialIds() == dialog.currentIds() && newContents.items == oldContents.items)
             return nullptr;
-        auto command = new ChangeDrawbackBoxCommand(formWindow()); // belongs to the form's undo stack
+        auto *command = new ChangeDrawbackBoxCommand(formWindow()); // belongs to the form's undo stack
         command->init(group, oldContents, newContents, dialog.initialIds(), dialog.currentIds());
         return command;
     };

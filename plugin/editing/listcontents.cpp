@@ -16,7 +16,7 @@ void applyToListWidget(const ListContents &contents, QListWidget *listWidget,
         for (const ItemData &entry : contents) {
             if (entry.isEmpty())
                 continue;
-            auto item = new QListWidgetItem; // belongs to the list
+            auto *item = new QListWidgetItem; // belongs to the list
             entry.fill(item, iconCache, editor);
             listWidget->addItem(item);
         }

@@ -150,7 +150,7 @@ void MatrixContents::applyToTableWidget(
             const auto [row, column] = it.key();
             if (row < 0 || row >= rows || column < 0 || column >= columns)
                 continue;
-            auto item = new QTableWidgetItem; // belongs to the table
+            auto *item = new QTableWidgetItem; // belongs to the table
             it.value().fill(item, iconCache, editor);
             table->setItem(row, column, item);
         }

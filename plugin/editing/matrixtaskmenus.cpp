@@ -21,7 +21,7 @@ void MatrixPushButtonsTaskMenu::editItems()
         if (newContents == oldContents)
             return nullptr;
         m_newSize = QSize(newContents.columnCount, newContents.rowCount);
-        auto command = new ChangeMatrixBtnsCommand(formWindow()); // belongs to the form's undo stack
+        auto *command = new ChangeMatrixBtnsCommand(formWindow()); // belongs to the form's undo stack
         command->init(matrix, oldContents, newContents);
         return command;
     };

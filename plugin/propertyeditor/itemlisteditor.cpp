@@ -17,17 +17,17 @@ namespace qdesigner_internal {
 
 ItemListEditor::ItemListEditor(QDesignerFormWindowInterface *form, QWidget *parent)
     : AbstractItemEditor(form, parent)
-    , ui(std::make_unique<Ui::ItemListEditor>())
+    , m_ui(std::make_unique<Ui::ItemListEditor>())
 {
-    ui->setupUi(this);
-    injectPropertyBrowser(this, ui->widget);
-    connect(ui->showPropertiesButton, SIGNAL(clicked()), this, SLOT(togglePropertyBrowser()));
-    setPropertyBrowserVisible(false, ui->showPropertiesButton);
+    m_ui->setupUi(this);
+    injectPropertyBrowser(this, m_ui->widget);
+    connect(m_ui->showPropertiesButton, SIGNAL(clicked()), this, SLOT(togglePropertyBrowser()));
+    setPropertyBrowserVisible(false, m_ui->showPropertiesButton);
 
-    ui->moveListItemUpButton->setIcon(createIconSet(QStringLiteral("up.png")));
-    ui->moveListItemDownButton->setIcon(createIconSet(QStringLiteral("down.png")));
-    ui->deleteListItemButton->setIcon(createIconSet(QStringLiteral("minus.png")));
-    ui->newListItemButton->setIcon(createIconSet(QStringLiteral("plus.png")));
+    m_ui->moveListItemUpButton->setIcon(createIconSet(QStringLiteral("up.png")));
+    m_ui->moveListItemDownButton->setIcon(createIconSet(QStringLiteral("down.png")));
+    m_ui->deleteListItemButton->setIcon(createIconSet(QStringLiteral("minus.png")));
+    m_ui->newListItemButton->setIcon(createIconSet(QStringLiteral("plus.png")));
 }
 
 ItemListEditor::~ItemListEditor() = default;
@@ -35,38 +35,38 @@ ItemListEditor::~ItemListEditor() = default;
 void ItemListEditor::setupEditor(QWidget *object, const PropertyDefinition *table)
 {
     AbstractItemEditor::setupEditor(object, table);
-    if (ui->listWidget->count() > 0)
-        ui->listWidget->setCurrentRow(0);
+    if (m_ui->listWidget->count() > 0)
+        m_ui->listWidget->setCurrentRow(0);
     updateEditor();
 }
 
-QListWidget *ItemListEditor::listWidget() const { return ui->listWidget; }
+QListWidget *ItemListEditor::listWidget() const { return m_ui->listWidget; }
 
 void ItemListEditor::setCurrentIndex(int index)
 {
     const QScopedValueRollback<bool> updating(m_updatingIndex, true);
-    ui->listWidget->setCurrentRow(index);
+    m_ui->listWidget->setCurrentRow(index);
 }
 
 void ItemListEditor::on_newListItemButton_clicked()
 {
-    const int row = ui->listWidget->currentRow() + 1;
+    const int row = m_ui->listWidget->currentRow() + 1;
     auto *item = new QListWidgetItem(m_newItemText);
     item->setData(Qt::DisplayPropertyRole, QVariant::fromValue(PropertySheetStringValue(m_newItemText)));
     item->setFlags(item->flags() | Qt::ItemIsEditable);
-    ui->listWidget->insertItem(row, item);
+    m_ui->listWidget->insertItem(row, item);
     emit itemInserted(row);
 
-    ui->listWidget->setCurrentItem(item);
-    ui->listWidget->editItem(item);
+    m_ui->listWidget->setCurrentItem(item);
+    m_ui->listWidget->editItem(item);
 }
 
 void ItemListEditor::on_deleteListItemButton_clicked()
 {
-    const int row = ui->listWidget->currentRow();
+    const int row = m_ui->listWidget->currentRow();
     if (row < 0)
         return;
-    delete ui->listWidget->takeItem(row);
+    delete m_ui->listWidget->takeItem(row);
     emit itemDeleted(row);
     // The current item changed before the count did.
     updateEditor();
@@ -74,7 +74,7 @@ void ItemListEditor::on_deleteListItemButton_clicked()
 
 void ItemListEditor::on_moveListItemUpButton_clicked()
 {
-    const int row = ui->listWidget->currentRow();
+    const int row = m_ui->listWidget->currentRow();
     if (row <= 0)
         return;
     moveCurrentItem(-1);
@@ -83,8 +83,8 @@ void ItemListEditor::on_moveListItemUpButton_clicked()
 
 void ItemListEditor::on_moveListItemDownButton_clicked()
 {
-    const int row = ui->listWidget->currentRow();
-    if (row < 0 || row >= ui->listWidget->count() - 1)
+    const int row = m_ui->listWidget->currentRow();
+    if (row < 0 || row >= m_ui->listWidget->count() - 1)
         return;
     moveCurrentItem(1);
     emit itemMovedDown(row);
@@ -92,16 +92,16 @@ void ItemListEditor::on_moveListItemDownButton_clicked()
 
 void ItemListEditor::moveCurrentItem(int distance)
 {
-    const int row = ui->listWidget->currentRow();
-    ui->listWidget->insertItem(row + distance, ui->listWidget->takeItem(row));
-    ui->listWidget->setCurrentRow(row + distance);
+    const int row = m_ui->listWidget->currentRow();
+    m_ui->listWidget->insertItem(row + distance, m_ui->listWidget->takeItem(row));
+    m_ui->listWidget->setCurrentRow(row + distance);
 }
 
 void ItemListEditor::on_listWidget_currentRowChanged()
 {
     updateEditor();
     if (!m_updatingIndex)
-        emit indexChanged(ui->listWidget->currentRow());
+        emit indexChanged(m_ui->listWidget->currentRow());
 }
 
 // An item was renamed in place: its text is the new text of the string that it holds.
@@ -117,27 +117,27 @@ void ItemListEditor::on_listWidget_itemChanged(QListWidgetItem *item)
     text.setValue(item->text());
     const QVariant value = QVariant::fromValue(text);
     item->setData(Qt::DisplayPropertyRole, value);
-    emit itemChanged(ui->listWidget->currentRow(), Qt::DisplayPropertyRole, value);
+    emit itemChanged(m_ui->listWidget->currentRow(), Qt::DisplayPropertyRole, value);
     updateBrowser();
 }
 
 void ItemListEditor::togglePropertyBrowser()
 {
-    setPropertyBrowserVisible(!isPropertyBrowserVisible(), ui->showPropertiesButton);
+    setPropertyBrowserVisible(!isPropertyBrowserVisible(), m_ui->showPropertiesButton);
 }
 
 void ItemListEditor::setItemData(int role, const QVariant &value)
 {
-    QListWidgetItem *item = ui->listWidget->currentItem();
+    QListWidgetItem *item = m_ui->listWidget->currentItem();
     if (!item)
         return;
     item->setData(role, value);
-    emit itemChanged(ui->listWidget->currentRow(), role, value);
+    emit itemChanged(m_ui->listWidget->currentRow(), role, value);
 }
 
 QVariant ItemListEditor::getItemData(int role) const
 {
-    const QListWidgetItem *item = ui->listWidget->currentItem();
+    const QListWidgetItem *item = m_ui->listWidget->currentItem();
     return item ? item->data(role) : QVariant();
 }
 
@@ -147,15 +147,15 @@ void ItemListEditor::cacheReloaded()
 {
     AbstractItemEditor::cacheReloaded();
     const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
-    showCachedIcons(iconCache(), ui->listWidget->model());
+    showCachedIcons(iconCache(), m_ui->listWidget->model());
 }
 
 void ItemListEditor::updateEditor()
 {
-    const int row = ui->listWidget->currentRow();
-    ui->deleteListItemButton->setEnabled(row >= 0);
-    ui->moveListItemUpButton->setEnabled(row > 0);
-    ui->moveListItemDownButton->setEnabled(row >= 0 && row < ui->listWidget->count() - 1);
+    const int row = m_ui->listWidget->currentRow();
+    m_ui->deleteListItemButton->setEnabled(row >= 0);
+    m_ui->moveListItemUpButton->setEnabled(row > 0);
+    m_ui->moveListItemDownButton->setEnabled(row >= 0 && row < m_ui->listWidget->count() - 1);
     if (row >= 0)
         updateBrowser();
     else

@@ -60,7 +60,7 @@ private:
     void moveCurrentItem(int distance);
     void updateEditor();
 
-    std::unique_ptr<Ui::ItemListEditor> ui;
+    std::unique_ptr<Ui::ItemListEditor> m_ui;
     QString m_newItemText;
     bool m_updatingIndex = false;
 };
