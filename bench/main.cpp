@@ -4,10 +4,11 @@
 #include "application.h"
 #include "designerhost.h"
 #include "groups.h"
+#include "logwatch.h"
+#include "privatehome.h"
 #include "report.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
 
 #include <algorithm>
 #include <cstdio>
@@ -33,23 +34,13 @@ int complain(const QString &message)
     return 2;
 }
 
-/// Messages cost time, and most are Designer's: only those that end the program are shown.
-void keepSilent(QtMsgType type, const QMessageLogContext &, const QString &message)
-{
-    if (type == QtFatalMsg)
-        std::fprintf(stderr, "bench: %s\n", qPrintable(message));
-}
-
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    // Settings and caches of the user are neither read nor written.
-    const QTemporaryDir home;
-    for (const char *variable : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
-        qputenv(variable, QFile::encodeName(home.path()));
+    const PrivateHome home;
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(keepSilent);
+    const LogWatch silence; // messages cost time, and most are Designer's
     BenchApplication application(argc, argv);
     QCoreApplication::setOrganizationName(QStringLiteral("Benchmark"));
 

@@ -2,13 +2,13 @@
 #include "measure.h"
 
 #include "application.h"
+#include "dialogs.h"
 
 #include <QtCore/QTimer>
+#include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QDialog>
-#include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QListWidget>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableWidget>
 
 #include <ctime>
@@ -32,18 +32,6 @@ bool showsContents(const QWidget *widget)
     return view && (qobject_cast<const QListWidget *>(view) || qobject_cast<const QTableWidget *>(view))
         && static_cast<const QAbstractScrollArea *>(view)->viewport() == widget
         && widget->window()->isModal();
-}
-
-/// Presses Ok or Cancel, in a button box or as the buttons that the grid dialogs have.
-void pressEnd(const QDialog *dialog, bool accepted)
-{
-    QAbstractButton *button = nullptr;
-    if (const auto *box = dialog->findChild<QDialogButtonBox *>())
-        button = box->button(accepted ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
-    else
-        button = dialog->findChild<QAbstractButton *>(
-            accepted ? QStringLiteral("okButton") : QStringLiteral("cancelButton"));
-    button->click();
 }
 
 } // namespace
@@ -89,7 +77,7 @@ Visit visitDialog(QAction *action, const std::function<bool(QDialog *)> &inside)
             const bool accepted = inside(dialog);
             visited = true;
             sinceEnd = Stopwatch();
-            pressEnd(dialog, accepted);
+            endButton(dialog, accepted)->click();
         });
     });
     action->trigger();

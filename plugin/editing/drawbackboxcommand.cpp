@@ -8,6 +8,11 @@
 #include <QtDesigner/QExtensionManager>
 
 namespace {
+QString title(const DrawbackBoxContents &contents, int index)
+{
+    return contents.items.value(index).text(ItemRole::Text);
+}
+
 QString titleProperty() { return QStringLiteral("windowTitle"); }
 } // namespace
 
@@ -25,6 +30,11 @@ void ChangeDrawbackBoxCommand::init(Vexa::DrawbackBoxGroup *group, const Drawbac
     ChangeContentsCommand::init(group, oldContents, newContents);
     m_initialIds = initialIds;
     m_currentIds = currentIds;
+    for (int index = 0; index < newContents.boxes.size(); ++index) {
+        const int before = oldContents.boxes.indexOf(newContents.boxes.at(index));
+        if (before >= 0 && title(newContents, index) == title(oldContents, before))
+            m_keptTitles.append(newContents.boxes.at(index));
+    }
 }
 
 void ChangeDrawbackBoxCommand::write(const DrawbackBoxContents &contents, Vexa::DrawbackBoxGroup *group)
@@ -33,10 +43,13 @@ void ChangeDrawbackBoxCommand::write(const DrawbackBoxContents &contents, Vexa::
     for (int index = 0; index < group->count(); ++index) {
         group->setCurrentIndex(index);
         // A box without a title has no row in the editor, so there may be fewer titles than pages.
-        if (index < contents.items.size())
-            group->setPageTitle(contents.items.at(index).text(ItemRole::Text));
-        // A title that the page had from the beginning is saved, too, and one that is taken back is not.
         QWidget *page = group->widget(index);
+        const QString own = page ? page->windowTitle() : QString();
+        if (index < contents.items.size())
+            group->setPageTitle(title(contents, index));
+        if (page && m_keptTitles.contains(DrawbackBoxHold(group->box(index))))
+            page->setWindowTitle(own);
+        // A title that the page had from the beginning is saved, too, and one that is taken back is not.
         if (auto *sheet = propertySheet(page))
             sheet->setChanged(sheet->indexOf(titleProperty()), !page->windowTitle().isEmpty());
     }

@@ -31,6 +31,8 @@ private:
     /// Null without a page or a form.
     QDesignerPropertySheetExtension *propertySheet(QWidget *page) const;
 
+    // The boxes whose titles nobody edited: a title that a control made up for a page is none of the page's.
+    QVector<DrawbackBoxHold> m_keptTitles;
     QVector<int> m_initialIds;
     QVector<int> m_currentIds;
     // Every box that this command has taken out, also one that came into the group past the undo stack.

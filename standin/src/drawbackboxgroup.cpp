@@ -91,8 +91,7 @@ QString DrawbackBoxGroup::pageTitle(int index) const
 void DrawbackBoxGroup::setPageTitle(const QString &title)
 {
     QWidget *page = widget(m_current);
-    // The number that a page had before it moved is no title either.
-    if (page && title != pageTitle(m_current) && title != box(m_current)->shownTitle())
+    if (page && title != pageTitle(m_current))
         page->setWindowTitle(title);
 }
 

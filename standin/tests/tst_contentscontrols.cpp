@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "quiettest.h"
 #include "testdata.h"
 
 #include <nui/Sorrel/SrLineEditEx.h>
@@ -53,7 +54,7 @@ const GridSize gridSizes[] = {
 } // namespace
 
 /// The controls that hold lists and grids of options.
-class ContentsControls : public QObject {
+class TestContentsControls : public QuietTest {
     Q_OBJECT
 
 private slots:
@@ -187,5 +188,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ContentsControls)
+QTEST_MAIN(TestContentsControls)
 #include "tst_contentscontrols.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "quiettest.h"
 #include "testdata.h"
 
 #include <nui/Sorrel/SrDrawbackBoxGroup.h>
@@ -45,12 +46,13 @@ const PageChange pageChanges[] = {
 
 } // namespace
 
-class DrawbackBoxGroups : public QObject {
+class TestDrawbackBoxGroup : public QuietTest {
     Q_OBJECT
 
 private slots:
     void init()
     {
+        QuietTest::init();
         m_group = std::make_unique<DrawbackBoxGroup>();
         m_group->resize(300, 400);
         for (const char *title : {"a", "b", "c"})
@@ -195,5 +197,5 @@ private:
     std::unique_ptr<DrawbackBoxGroup> m_group;
 };
 
-QTEST_MAIN(DrawbackBoxGroups)
+QTEST_MAIN(TestDrawbackBoxGroup)
 #include "tst_drawbackboxgroup.moc"

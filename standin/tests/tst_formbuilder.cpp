@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "quiettest.h"
 #include "testdata.h"
 
 #include <nui/Sorrel/SrComboBox.h>
@@ -143,7 +144,7 @@ const Blank blanks[] = {
 
 } // namespace
 
-class FormBuilders : public QObject {
+class TestFormBuilder : public QuietTest {
     Q_OBJECT
 
 private slots:
@@ -230,5 +231,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(FormBuilders)
+QTEST_MAIN(TestFormBuilder)
 #include "tst_formbuilder.moc"

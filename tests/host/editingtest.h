@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "dialog.h"
+#include "dialogs.h"
 #include "hosttest.h"
 #include "panedriver.h"
 #include "testdata.h"
@@ -66,7 +66,7 @@ protected:
     /// Opens the dialog by the context menu entry with this text and hands it to \a use.
     bool edit(FormWindow *form, QWidget *control, const char *entry, const UseDialog &use)
     {
-        return withDialog([&] { trigger(form, control, entry); }, use);
+        return withDialogs([&] { trigger(form, control, entry); }, use);
     }
 
     /// The title of the dialog that a double click on the selected control opens.
@@ -79,7 +79,7 @@ protected:
             QTest::mouseDClick(control, Qt::LeftButton);
             QTRY_VERIFY(!title.isNull());
         };
-        withDialog(doubleClick, [&title](QDialog *dialog) { title = dialog->windowTitle(); });
+        withDialogs(doubleClick, [&title](QDialog *dialog) { title = dialog->windowTitle(); });
         return title;
     }
 
@@ -113,13 +113,7 @@ protected:
     }
 
     /// Ok, in whichever way the dialog has it.
-    static void accept(const QDialog *dialog)
-    {
-        if (dialog->findChild<QDialogButtonBox *>())
-            press(dialog, QDialogButtonBox::Ok);
-        else
-            press(dialog, "okButton");
-    }
+    static void accept(const QDialog *dialog) { QTest::mouseClick(endButton(dialog, true), Qt::LeftButton); }
 
     QString imageFile() const
     {

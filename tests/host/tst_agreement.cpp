@@ -101,7 +101,7 @@ class TestAgreement : public EditingTest {
                 button = each;
         }
         QVERIFY(button);
-        QVERIFY(withDialog([&] { button->click(); },
+        QVERIFY(withDialogs([&] { button->click(); },
             [&](QDialog *dialog) {
                 QAbstractItemModel *model = dialog->findChild<QListView *>()->model();
                 QVERIFY(model->setData(model->index(0, 0), text));

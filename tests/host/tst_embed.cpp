@@ -2,7 +2,7 @@
 // The window of the embedding example: an application with its own words for the property pane.
 
 #include "base.h"
-#include "dialog.h"
+#include "dialogs.h"
 #include "editorwindow.h"
 #include "panedriver.h"
 #include "quiettest.h"
@@ -82,7 +82,7 @@ private slots:
         QVERIFY(menu);
 
         QStringList shown;
-        QVERIFY(withDialog([menu] { menu->preferredEditAction()->trigger(); },
+        QVERIFY(withDialogs([menu] { menu->preferredEditAction()->trigger(); },
             [&shown](QDialog *dialog) {
                 dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton"))->click();
                 shown = PaneDriver(dialog).names();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 // The command-line companion, as a process: what it says of good, bad and hostile forms.
 
+#include "quiettest.h"
 #include "sorrelformprocess.h"
 #include "testdata.h"
 
@@ -50,11 +51,11 @@ QByteArray declared(const char *className, const char *base)
 
 } // namespace
 
-class TestSorrelForm : public QObject {
+class TestSorrelForm : public QuietTest {
     Q_OBJECT
 
 private slots:
-    void init() { QVERIFY(m_folder.isValid()); }
+    void initTestCase() { QVERIFY(m_folder.isValid()); }
 
     void examplesAreGood()
     {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "quiettest.h"
 #include "testdata.h"
 
 #include "editing/drawbackboxcontents.h"
@@ -11,7 +12,7 @@ using Ids = QVector<int>;
 
 DrawbackBoxHold newBox()
 {
-    auto box = new Vexa::DrawbackBox;
+    auto *box = new Vexa::DrawbackBox;
     DrawbackBoxHold hold(box);
     box->setWidget(new QWidget(box));
     return hold;
@@ -33,7 +34,7 @@ const Arrangement arrangements[] = {
 
 } // namespace
 
-class tst_DrawbackBoxContents : public QObject {
+class TestDrawbackBoxContents : public QuietTest {
     Q_OBJECT
 
 private slots:
@@ -67,5 +68,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_DrawbackBoxContents)
+QTEST_MAIN(TestDrawbackBoxContents)
 #include "tst_drawbackboxcontents.moc"

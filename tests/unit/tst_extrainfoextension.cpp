@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "quiettest.h"
+
 #include "extensions/extrainfoextension.h"
 
 #include <QtDesigner/QExtensionManager>
 
-#include <QtTest/QtTest>
 #include <QtWidgets/QWidget>
 
 #include <memory>
@@ -19,7 +20,7 @@ public:
 
 } // namespace
 
-class TestExtraInfoExtension : public QObject {
+class TestExtraInfoExtension : public QuietTest {
     Q_OBJECT
 
 private slots:

@@ -36,7 +36,7 @@ constexpr AbstractItemEditor::PropertyDefinition table[]
 } // namespace
 
 /// The hook with the host's base library in the process.
-class HostTranslationTest : public QuietTest {
+class TestHostTranslation : public QuietTest {
     Q_OBJECT
 
 private slots:
@@ -113,5 +113,5 @@ private:
     };
 };
 
-QTEST_MAIN(HostTranslationTest)
+QTEST_MAIN(TestHostTranslation)
 #include "tst_hosttranslation.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "quiettest.h"
 #include "testdata.h"
 
 #include "editing/itemdata.h"
@@ -65,7 +66,7 @@ const FlagCase flagCases[] = {
 
 } // namespace
 
-class tst_ItemData : public QObject {
+class TestItemData : public QuietTest {
     Q_OBJECT
 
 private slots:
@@ -184,5 +185,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ItemData)
+QTEST_MAIN(TestItemData)
 #include "tst_itemdata.moc"

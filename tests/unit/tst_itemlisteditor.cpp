@@ -122,7 +122,7 @@ const Field fields[]
 
 } // namespace
 
-class ItemListEditorTest : public QuietTest {
+class TestItemListEditor : public QuietTest {
     Q_OBJECT
 
 private slots:
@@ -225,5 +225,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ItemListEditorTest)
+QTEST_MAIN(TestItemListEditor)
 #include "tst_itemlisteditor.moc"

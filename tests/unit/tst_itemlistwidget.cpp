@@ -98,7 +98,7 @@ const Change layoutChanges[] = {
 
 } // namespace
 
-class ItemListWidgetTest : public QuietTest {
+class TestItemListWidget : public QuietTest {
     Q_OBJECT
 
 private slots:
@@ -174,5 +174,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ItemListWidgetTest)
+QTEST_MAIN(TestItemListWidget)
 #include "tst_itemlistwidget.moc"

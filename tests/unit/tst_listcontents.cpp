@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "quiettest.h"
 #include "testdata.h"
 
 #include "editing/controlcontents.h"
@@ -30,7 +31,7 @@ ItemData entry(const char *text, const char *toolTip = "", const char *data = ""
 template <class Command, class Control>
 void push(QUndoStack *stack, Control *control, const ListContents &before, const ListContents &after)
 {
-    auto command = new Command(nullptr);
+    auto *command = new Command(nullptr);
     command->init(control, before, after);
     stack->push(command);
 }
@@ -51,7 +52,7 @@ const Lists lists[] = {
 } // namespace
 
 /// Lists and list controls as contents, where the way through the dialogs does not lead.
-class tst_ListContents : public QObject {
+class TestListContents : public QuietTest {
     Q_OBJECT
 
 private slots:
@@ -253,5 +254,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_ListContents)
+QTEST_MAIN(TestListContents)
 #include "tst_listcontents.moc"

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
+#include "quiettest.h"
 #include "testdata.h"
 
 #include "editing/matrixcommands.h"
@@ -7,6 +8,8 @@
 #include <QtWidgets/QTableWidget>
 
 #include <memory>
+
+Q_DECLARE_METATYPE(QTableWidgetItem *)
 
 namespace {
 
@@ -102,7 +105,7 @@ const Written written[] = {
 
 } // namespace
 
-class tst_MatrixContents : public QObject {
+class TestMatrixContents : public QuietTest {
     Q_OBJECT
 
 private slots:
@@ -178,6 +181,7 @@ private slots:
         contents.items[{98, 98}] = cell("last", ":/i", "t", "go");
         contents.items.insert({99, 0}, cell("outside"));
         QTableWidget table(3, 4);
+        qRegisterMetaType<QTableWidgetItem *>();
         QSignalSpy changes(&table, SIGNAL(itemChanged(QTableWidgetItem *)));
         QSignalSpy dataChanges(table.model(), SIGNAL(dataChanged(QModelIndex, QModelIndex, QVector<int>)));
         contents.applyToTableWidget(&table, nullptr, true);
@@ -230,5 +234,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(tst_MatrixContents)
+QTEST_MAIN(TestMatrixContents)
 #include "tst_matrixcontents.moc"

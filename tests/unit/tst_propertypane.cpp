@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "designerhost.h"
-#include "dialog.h"
+#include "dialogs.h"
 #include "panedriver.h"
 #include "quiettest.h"
 #include "testdata.h"
@@ -68,7 +68,7 @@ struct Pane {
     /// Calls \a use with the dialog that the button of \a row opens; false where none comes up.
     bool usesDialog(const QString &row, const std::function<void(QDialog *)> &use) const
     {
-        return withDialog([&] { driver.moreButton(row)->click(); }, use);
+        return withDialogs([&] { driver.moreButton(row)->click(); }, use);
     }
 
     ItemListEditor editor;
@@ -117,7 +117,7 @@ const Key keys[] = {
 } // namespace
 
 /// The property pane of a list editor, in a form of the embedded Designer.
-class PropertyPaneTest : public QuietTest {
+class TestPropertyPane : public QuietTest {
     Q_OBJECT
 
 private slots:
@@ -305,7 +305,7 @@ private slots:
         m_chooser->asked = 0;
         m_pane->driver.moreButton(icon)->click();
         QCOMPARE(m_chooser->asked, 1);
-        QVERIFY(withDialog([this] { m_pane->driver.trigger(icon, "Set Icon From Theme..."); },
+        QVERIFY(withDialogs([this] { m_pane->driver.trigger(icon, "Set Icon From Theme..."); },
             [](QDialog *dialog) {
                 QTest::keyClicks(dialog->findChild<QLineEdit *>(), themeName);
                 dialog->accept();
@@ -394,5 +394,5 @@ private:
     QTemporaryDir m_files;
 };
 
-QTEST_MAIN(PropertyPaneTest)
+QTEST_MAIN(TestPropertyPane)
 #include "tst_propertypane.moc"
