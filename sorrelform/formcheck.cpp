@@ -174,6 +174,9 @@ FormReport FormChecker::check(const QString &text, const QString &fileName)
         return report;
     }
     report.opened = true;
+    // Designer reads no further than the end of the form.
+    if (!facts.error.isEmpty())
+        report.findings += {"malformed", QStringLiteral("uic does not read it: ") + facts.error};
 
     for (auto it = facts.widgets.cbegin(); it != facts.widgets.cend(); ++it) {
         for (const QString &path : it->absoluteIcons) {

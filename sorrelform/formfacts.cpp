@@ -31,6 +31,11 @@ public:
                 break;
             }
         }
+        if (m_xml.hasError())
+            m_facts.error = QStringLiteral("line %1, column %2: %3")
+                                .arg(m_xml.lineNumber())
+                                .arg(m_xml.columnNumber())
+                                .arg(m_xml.errorString());
         return m_facts;
     }
 

@@ -22,6 +22,7 @@ struct FormFacts {
     QStringList repeatedNames;
     QStringList declaredClasses; ///< the custom widgets
     int depth = 0; ///< of the widgets in each other
+    QString error; ///< what is wrong with \a ui as XML
 
     /// The facts as far as \a ui can be read; what is wrong with the rest is Designer's to say.
     static FormFacts of(const QString &ui);

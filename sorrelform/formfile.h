@@ -4,8 +4,11 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
-/// False, with the reason in \a error, where \a fileName cannot be read, is no regular file, or is no text
-/// that Designer would write.
+/// Whether the name stands for the standard input and output.
+bool isStandardInput(const QString &fileName);
+
+/// False, with the reason in \a error, where \a fileName cannot be read, is no regular file, is larger
+/// than Designer can bear, or is no text that it would write.
 bool readForm(const QString &fileName, QString *text, QString *error);
 
 /// Puts \a content in the place of what \a fileName holds. False, with the reason in \a error, where not all

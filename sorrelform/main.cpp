@@ -1,36 +1,26 @@
 // SPDX-License-Identifier: BSD-3-Clause
 // sorrel-form: forms with the controls, checked, rendered and normalized from the command line.
 
+#include "commands.h"
 #include "designerhost.h"
-#include "formcheck.h"
-#include "formfile.h"
-#include "logwatch.h"
 #include "pluginfolder.h"
 #include "privatehome.h"
 #include "silentdialogs.h"
 
 #include <QtDesigner/QDesignerFormEditorInterface>
-#include <QtDesigner/QDesignerFormWindowManagerInterface>
 
-#include <private/formwindowbase_p.h>
 #include <private/pluginmanager_p.h>
 
-#include <QtCore/QBuffer>
 #include <QtCore/QCommandLineParser>
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtCore/QJsonObject>
+#include <QtCore/QMap>
 #include <QtCore/QTextStream>
-#include <QtGui/QPixmap>
+#include <QtCore/QThread>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
 
 namespace {
-
-enum ExitCode { Good = 0, HasFindings = 1, CannotWork = 2 };
 
 const char description[]
     = "Checks, renders and normalizes .ui files with the Sorrel controls, as Qt Designer would.\n"
@@ -42,174 +32,115 @@ const char description[]
       "  render FORM.ui OUT.png   writes Designer's preview of the form as a picture\n"
       "  normalize FORM.ui ...    opens and saves; a form that would lose something is left alone\n"
       "\n"
+      "A form named - is read from the standard input; normalize then writes to the standard output.\n"
+      "\n"
       "Exit code: 0 all is well, 1 something is wrong with a form, 2 a file cannot be read or\n"
       "written, or the plugin or the arguments are wrong.";
 
-QTextStream &standardError()
-{
-    static QTextStream stream(stderr);
-    return stream;
-}
-
-int fail(const QString &message)
-{
-    standardError() << "sorrel-form: " << message << Qt::endl;
-    return CannotWork;
-}
+const QString pluginPathOption = QStringLiteral("plugin-path");
+const QString jobsOption = QStringLiteral("jobs");
+/// Fewer forms are checked as fast by one process.
+constexpr int fewestForProcesses = 20;
 
 /// What Qt takes on a desktop that does not say; without a display it would be a third larger.
 constexpr int desktopFontSize = 9;
 
-/// Tells on the standard error how far a run over many forms has come.
-void showProgress(int done, const QStringList &files)
+QStringList optionsFor(const QString &command)
 {
-    if (files.size() > 1)
-        standardError() << '[' << done + 1 << '/' << files.size() << "] " << files.at(done) << Qt::endl;
+    static const QMap<QString, QStringList> options{
+        {QStringLiteral("check"), {QStringLiteral("json"), QStringLiteral("jobs"), pluginPathOption}},
+        {QStringLiteral("render"), {pluginPathOption}},
+        {QStringLiteral("normalize"), {pluginPathOption}},
+    };
+    return options.value(command);
 }
 
-QJsonObject toJson(const QString &fileName, const FormReport &report)
+/// What is wrong with the command line; empty where nothing is.
+QString complaint(const QCommandLineParser &parser, const QString &command, const QStringList &files)
 {
-    QJsonArray findings;
-    for (const Finding &finding : report.findings) {
-        findings += QJsonObject{{QStringLiteral("kind"), QLatin1String(finding.kind)},
-            {QStringLiteral("message"), finding.message}};
+    const QStringList options = optionsFor(command);
+    if (options.isEmpty())
+        return QStringLiteral("the command is check, render or normalize; see --help");
+    const bool renders = command == QLatin1String("render");
+    if (renders && files.size() != 2)
+        return QStringLiteral("render needs a form and the name of the picture");
+    if (files.isEmpty())
+        return QStringLiteral("%1 needs a form").arg(command);
+    const QStringList given = parser.optionNames();
+    for (const QString &option : given) {
+        if (!options.contains(option))
+            return QStringLiteral("%1 has no option --%2").arg(command, option);
     }
-    return {{QStringLiteral("file"), fileName}, {QStringLiteral("ok"), report.isGood()},
-        {QStringLiteral("opened"), report.opened}, {QStringLiteral("normalized"), report.normalized},
-        {QStringLiteral("findings"), findings}};
-}
-
-void print(const QString &fileName, const FormReport &report)
-{
-    QTextStream out(stdout);
-    if (report.isGood())
-        out << fileName << ": ok\n";
-    for (const Finding &finding : report.findings)
-        out << fileName << ": " << finding.kind << ": " << finding.message << '\n';
-}
-
-int check(DesignerHost *host, const QStringList &files, bool asJson)
-{
-    FormChecker checker(host);
-    ExitCode result = Good;
-    QJsonArray json;
-    for (int i = 0; i < files.size(); ++i) {
-        showProgress(i, files);
-        FormReport report;
-        QString text;
-        if (readForm(files.at(i), &text, &report.error)) {
-            report = checker.check(text, files.at(i));
-            result = qMax(result, report.isGood() ? Good : HasFindings);
-        } else {
-            report.findings += {"unreadable", report.error};
-            result = CannotWork;
-        }
-        if (asJson)
-            json += toJson(files.at(i), report);
-        else
-            print(files.at(i), report);
+    bool isNumber = false;
+    if (parser.isSet(jobsOption) && (parser.value(jobsOption).toInt(&isNumber) < 1 || !isNumber))
+        return QStringLiteral("--jobs takes a number from 1 on");
+    const QStringList folders = parser.values(pluginPathOption);
+    for (const QString &folder : folders) {
+        if (!QFileInfo(folder).isDir())
+            return QStringLiteral("%1: no folder, for --plugin-path").arg(folder);
     }
-    if (asJson)
-        QTextStream(stdout) << QJsonDocument(json).toJson();
-    return result;
-}
-
-int render(DesignerHost *host, const QString &fileName, const QString &pictureName)
-{
-    QString text;
-    QString error;
-    if (!readForm(fileName, &text, &error))
-        return fail(QStringLiteral("%1: %2").arg(fileName, error));
-    LogWatch log;
-    if (!host->openForm(text, fileName, &error)) {
-        fail(QStringLiteral("%1: %2").arg(fileName, error));
-        return HasFindings;
-    }
-    const QPixmap picture = host->core()->formWindowManager()->createPreviewPixmap();
-    const QStringList warnings = log.takeWarnings();
-    for (const QString &warning : warnings)
-        standardError() << fileName << ": warning: " << warning << Qt::endl;
-    QBuffer buffer;
-    if (!picture.save(&buffer, QFileInfo(pictureName).suffix().toLatin1().constData()))
-        return fail(QStringLiteral("%1: no picture can be made for a file of this name").arg(pictureName));
-    if (!writeFile(pictureName, buffer.data(), &error))
-        return fail(QStringLiteral("%1: %2").arg(pictureName, error));
-    return Good;
-}
-
-int normalize(DesignerHost *host, const QStringList &files)
-{
-    FormChecker checker(host);
-    ExitCode result = Good;
-    for (int i = 0; i < files.size(); ++i) {
-        showProgress(i, files);
-        QString text;
-        QString error;
-        if (!readForm(files.at(i), &text, &error)) {
-            result = ExitCode(fail(QStringLiteral("%1: %2").arg(files.at(i), error)));
-            continue;
-        }
-        FormReport report = checker.check(text, files.at(i));
-        if (report.isMended() && !report.normalized) {
-            if (!writeFile(files.at(i), report.saved.toUtf8(), &error)) {
-                result = ExitCode(fail(QStringLiteral("%1: %2").arg(files.at(i), error)));
-                continue;
-            }
-            if (!report.isGood())
-                report = checker.check(report.saved, files.at(i));
-        }
-        if (!report.isGood()) {
-            print(files.at(i), report);
-            result = qMax(result, HasFindings);
-        }
-    }
-    return result;
+    return {};
 }
 
 /// Does what the command line says.
-int run(const QApplication &application)
+ExitCode run()
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(QLatin1String(description));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption json(QStringLiteral("json"), QStringLiteral("check: write the result as JSON."));
-    const QCommandLineOption pluginPath(QStringLiteral("plugin-path"),
-        QStringLiteral(
-            "A Qt plugin folder whose Designer plugins are loaded too. May be given more than once."),
-        QStringLiteral("folder"));
-    parser.addOptions({json, pluginPath});
+    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addOptions({
+        {QStringLiteral("json"), QStringLiteral("check: write the result as JSON.")},
+        {jobsOption, QStringLiteral("check: so many processes at a time; as many as processors by default."),
+            QStringLiteral("number")},
+        {pluginPathOption,
+            QStringLiteral(
+                "A Qt plugin folder whose Designer plugins are loaded too. May be given more than once."),
+            QStringLiteral("folder")},
+    });
     parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("check, render or normalize"));
     parser.addPositionalArgument(
         QStringLiteral("files"), QStringLiteral("what it works on"), QStringLiteral("files..."));
-    parser.process(application);
+    if (!parser.parse(QCoreApplication::arguments()))
+        return fail(parser.errorText());
+    if (parser.isSet(help) || parser.isSet(version)) {
+        QTextStream(stdout) << (parser.isSet(help) ? parser.helpText()
+                                                   : QStringLiteral("sorrel-form " VERSION "\n"));
+        return Good;
+    }
 
     QStringList files = parser.positionalArguments();
     const QString command = files.isEmpty() ? QString() : files.takeFirst();
-    const bool renders = command == QLatin1String("render");
-    if (!renders && command != QLatin1String("check") && command != QLatin1String("normalize"))
-        return fail(QStringLiteral("the command is check, render or normalize; see --help"));
-    if (renders ? files.size() != 2 : files.isEmpty())
-        return fail(renders ? QStringLiteral("render needs a form and the name of the picture")
-                            : QStringLiteral("%1 needs a form").arg(command));
+    const QString wrong = complaint(parser, command, files);
+    if (!wrong.isEmpty())
+        return fail(wrong);
+
+    const bool asJson = parser.isSet(QStringLiteral("json"));
+    const int jobs
+        = parser.isSet(jobsOption) ? parser.value(jobsOption).toInt() : QThread::idealThreadCount();
+    QStringList pluginPaths;
+    const QStringList folders = parser.values(pluginPathOption);
+    for (const QString &folder : folders)
+        pluginPaths += QStringList{QStringLiteral("--plugin-path"), folder};
+    if (command == QLatin1String("check") && jobs > 1 && files.size() >= fewestForProcesses
+        && !files.contains(QStringLiteral("-")))
+        return checkInParallel(files, pluginPaths, jobs, asJson);
 
     const PluginFolder plugin;
     if (plugin.path().isEmpty()) {
         return fail(QStringLiteral("the plugin is in none of these folders' subfolder designer: %1")
                         .arg(plugin.searched().join(QLatin1String(", "))));
     }
-    DesignerHost host(QStringList(plugin.path()) + parser.values(pluginPath));
+    DesignerHost host(QStringList(plugin.path()) + folders);
     host.core()->setDialogGui(new SilentDialogs); // the core takes it
     const QDesignerPluginManager *plugins = host.core()->pluginManager();
     const QStringList failed = plugins->failedPlugins();
     if (!failed.isEmpty())
         return fail(QStringLiteral("%1: %2").arg(failed.first(), plugins->failureReason(failed.first())));
 
-    if (renders)
+    if (command == QLatin1String("render"))
         return render(&host, files.first(), files.last());
-    if (command == QLatin1String("check"))
-        return check(&host, files, parser.isSet(json));
-    return normalize(&host, files);
+    return command == QLatin1String("check") ? check(&host, files, asJson) : normalize(&host, files);
 }
 
 } // namespace
@@ -231,7 +162,7 @@ int main(int argc, char *argv[])
         QApplication::setFont(font);
     }
 
-    const int result = run(application);
+    const ExitCode result = run();
     if (std::fflush(stdout) != 0 || std::ferror(stdout))
         return fail(QStringLiteral("the output cannot be written"));
     return result;

@@ -33,12 +33,14 @@ private:
     const rlim_t m_greatestFile;
 };
 
-inline Result run(
-    const QStringList &arguments, const QString &folder = QString(), rlim_t greatestFile = RLIM_INFINITY)
+inline Result run(const QStringList &arguments, const QString &folder = QString(),
+    rlim_t greatestFile = RLIM_INFINITY, const QByteArray &input = QByteArray())
 {
     Process process(greatestFile);
     process.setWorkingDirectory(folder);
     process.start(QStringLiteral(SORREL_FORM), arguments);
+    process.write(input);
+    process.closeWriteChannel();
     Result result;
     if (process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit)
         result.exitCode = process.exitCode();

@@ -3,6 +3,7 @@
 
 #include "quiettest.h"
 #include "sorrelformprocess.h"
+#include "sorrelformtext.h"
 #include "testdata.h"
 
 #include <QtCore/QDir>
@@ -13,43 +14,6 @@
 #include <QtCore/QTemporaryDir>
 
 #include <sys/stat.h>
-
-namespace {
-
-/// A form of one QWidget named "Form" with this inside.
-QByteArray form(const QByteArray &contents, const QByteArray &afterwards = QByteArray())
-{
-    return "<ui version=\"4.0\"><class>Form</class><widget class=\"QWidget\" name=\"Form\">" + contents
-        + "</widget>" + afterwards + "</ui>\n";
-}
-
-/// A widget named "n" of this class with this inside.
-QByteArray containing(const char *className, const QByteArray &inside)
-{
-    return QByteArray("<widget class=\"") + className + "\" name=\"n\">" + inside + "</widget>";
-}
-QByteArray empty(const char *className) { return containing(className, QByteArray()); }
-
-QByteArray string(const char *property, const char *value)
-{
-    return QByteArray("<property name=\"") + property + "\"><string>" + value + "</string></property>";
-}
-/// An item as forms had it before there were list properties.
-QByteArray item(const QByteArray &properties) { return "<item>" + properties + "</item>"; }
-QByteArray stringList(const char *property, const QByteArray &string)
-{
-    return QByteArray("<property name=\"") + property + "\"><stringlist><string>" + string
-        + "</string></stringlist></property>";
-}
-
-/// What a form says of a class that Designer does not have.
-QByteArray declared(const char *className, const char *base)
-{
-    return QByteArray("<customwidgets><customwidget><class>") + className + "</class><extends>" + base
-        + "</extends><header>n.h</header></customwidget></customwidgets>";
-}
-
-} // namespace
 
 class TestSorrelForm : public QuietTest {
     Q_OBJECT
@@ -103,6 +67,7 @@ private slots:
             "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;\">]>"
                 + form("<property name=\"windowTitle\"><string>&d;&d;&d;&d;&d;&d;&d;&d;</string></property>"),
             "error");
+        add("text after the form", form(empty("QLabel")) + "x", "malformed");
         add("unknown class", form(empty("QNothing")), "unknown-class");
         add("unknown control", form(empty("Vexa::Nothing"), declared("Vexa::Nothing", "QWidget")),
             "unknown-class");
@@ -198,6 +163,52 @@ private slots:
         QCOMPARE(read(fileName), text);
     }
 
+    void tooLargeFilesAreRefused()
+    {
+        const QByteArray text(17 << 20, ' ');
+        for (const bool fromInput : {false, true}) {
+            const QString file = fromInput ? QStringLiteral("-") : write(text);
+            const Result result = run({QStringLiteral("check"), file}, {}, RLIM_INFINITY, text);
+            QCOMPARE(result.exitCode, 2);
+            QCOMPARE(result.output, QFile::encodeName(file) + ": unreadable: larger than 16 MB\n");
+        }
+    }
+
+    void readsAndWritesTheStandardStreams()
+    {
+        const QByteArray mendable = form("<widget class=\"QLabel\" name=\"l\"/>");
+        const Result result = run(words("normalize -"), {}, RLIM_INFINITY, mendable);
+        QCOMPARE(result.exitCode, 0);
+        QCOMPARE(run({QStringLiteral("normalize"), write(mendable)}).exitCode, 0);
+        QCOMPARE(result.output, read(m_folder.filePath(QStringLiteral("form.ui"))));
+        QCOMPARE(run(words("check -"), {}, RLIM_INFINITY, result.output).output, QByteArray("-: ok\n"));
+        // Findings do not get among the forms.
+        const Result bad = run(words("normalize -"), {}, RLIM_INFINITY, form(empty("QNothing")));
+        QCOMPARE(bad.exitCode, 1);
+        QCOMPARE(bad.output, QByteArray());
+        QVERIFY2(bad.errors.contains("unknown-class"), bad.errors);
+    }
+
+    void manyFormsGiveTheSameInAnyNumberOfProcesses()
+    {
+        QStringList files;
+        for (int i = 0; i < 30; ++i) {
+            files += m_folder.filePath(QStringLiteral("many-%1.ui").arg(i));
+            QFile file(files.last());
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(form(i % 7 == 0 ? empty("QNothing") : empty("Vexa::Angle")));
+        }
+        files.insert(11, QStringLiteral("absent.ui"));
+        for (const QStringList &options : {QStringList(), words("--json")}) {
+            const Result one = run(words("check --jobs 1") + options + files);
+            const Result four = run(words("check --jobs 4") + options + files);
+            QCOMPARE(one.exitCode, 2);
+            QCOMPARE(four.exitCode, 2);
+            QCOMPARE(four.output, one.output);
+        }
+        QCOMPARE(run(words("check --jobs 4") + files.mid(0, 10) + files.mid(12)).exitCode, 1);
+    }
+
     void wrongArgumentsAndFilesAreNamed_data()
     {
         QTest::addColumn<QStringList>("arguments");
@@ -218,6 +229,12 @@ private slots:
             row({QStringLiteral("normalize"), file}, file + QLatin1String(": not a regular file"));
         }
         row({}, QStringLiteral("sorrel-form: "));
+        row(words("check --nothing a.ui"), QStringLiteral("'nothing'"));
+        row(words("check --plugin-path /absent a.ui"), QStringLiteral("/absent: no folder"));
+        row(words("check --jobs 0 a.ui"), QStringLiteral("--jobs"));
+        row(words("check --jobs many a.ui"), QStringLiteral("--jobs"));
+        row(words("render --json a.ui a.png"), QStringLiteral("--json"));
+        row(words("normalize --jobs 2 a.ui"), QStringLiteral("--jobs"));
         row(words("polish a.ui"), QStringLiteral("sorrel-form: "));
         row(words("check"), QStringLiteral("sorrel-form: "));
         row(words("render a.ui"), QStringLiteral("sorrel-form: "));
@@ -313,12 +330,15 @@ private slots:
 
     void lostOutputIsNoSuccess()
     {
-        Process process(RLIM_INFINITY);
-        process.setStandardOutputFile(QStringLiteral("/dev/full"));
-        process.start(QStringLiteral(SORREL_FORM), {QStringLiteral("check"), exampleForms().first()});
-        QVERIFY(process.waitForFinished(60000));
-        QCOMPARE(process.exitCode(), 2);
-        QVERIFY(process.readAllStandardError().contains("output"));
+        for (const QStringList &arguments : {QStringList{QStringLiteral("check"), exampleForms().first()},
+                 words("--help"), words("--version")}) {
+            Process process(RLIM_INFINITY);
+            process.setStandardOutputFile(QStringLiteral("/dev/full"));
+            process.start(QStringLiteral(SORREL_FORM), arguments);
+            QVERIFY(process.waitForFinished(60000));
+            QCOMPARE(process.exitCode(), 2);
+            QVERIFY(process.readAllStandardError().contains("output"));
+        }
     }
 
     /// Read as UTF-8 it would lose what it says.
