@@ -40,6 +40,7 @@ MatrixEditor::MatrixEditor(QDesignerFormWindowInterface *form, QDialog *dialog)
 {
     m_ui->setupUi(dialog);
     injectPropertyBrowser(m_ui->tab, m_ui->widget);
+    m_ui->tableWidget->setFocus();
     connect(m_ui->showPropertiesButton, SIGNAL(clicked()), this, SLOT(togglePropertyBrowser()));
     m_ui->tableWidget->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(m_ui->tableWidget, SIGNAL(currentCellChanged(int, int, int, int)), this,
