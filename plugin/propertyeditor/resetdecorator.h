@@ -15,7 +15,7 @@ class PropertyRow;
 class ResetDecorator : public ValueEditor {
     Q_OBJECT
 public:
-    /// Takes over \a editor, which edits \a row.
+    /// Takes over \a editor, which edits \a row and has no parent yet.
     ResetDecorator(ValueEditor *editor, PropertyRow *row, QWidget *parent);
 
     QVariant value() const override { return m_editor->value(); }

@@ -60,6 +60,32 @@ QString reversed(const QString &way)
     return names.join(QLatin1Char(' '));
 }
 
+/// The paths of all rows of a pane that can be opened.
+QStringList rowPaths(const PaneDriver &pane)
+{
+    QStringList paths;
+    for (const QString &row : pane.names()) {
+        paths += row;
+        for (const QString &part : pane.names(row))
+            paths += row + QLatin1Char('/') + part;
+    }
+    return paths;
+}
+
+/// The widgets of an open editor that take the keyboard, from left to right.
+QVector<QWidget *> stops(const QWidget *editor)
+{
+    QVector<QWidget *> stops;
+    for (QWidget *widget : editor->findChildren<QWidget *>()) {
+        if (widget->isVisible() && widget->isEnabled() && !widget->focusProxy()
+            && widget->focusPolicy() & Qt::TabFocus)
+            stops += widget;
+    }
+    const auto x = [editor](const QWidget *widget) { return widget->mapTo(editor, QPoint()).x(); };
+    std::sort(stops.begin(), stops.end(), [x](auto *left, auto *right) { return x(left) < x(right); });
+    return stops;
+}
+
 } // namespace
 
 /// The way of the keyboard through the contents dialogs.
@@ -128,6 +154,42 @@ private slots:
             QCOMPARE(way(Qt::Key_Tab, start), order);
             const QString others = order.left(order.lastIndexOf(QLatin1Char(' ')));
             QCOMPARE(way(Qt::Key_Backtab, start), reversed(others) + QLatin1Char(' ') + nameOf(start));
+        });
+    }
+
+    void tabLeadsThroughAnOpenRowOfThePane_data() { addRows(kinds); }
+    void tabLeadsThroughAnOpenRowOfThePane()
+    {
+        editActive([](QDialog *dialog) {
+            fill(dialog);
+            press(dialog, "showPropertiesButton");
+            PaneDriver pane(dialog);
+            // With a value there is something to reset.
+            for (const QString &row : pane.names()) {
+                if (row == QLatin1String("icon"))
+                    QVERIFY(pane.pastePath(row, QStringLiteral("a.png")));
+                else
+                    QVERIFY(pane.paste(row, QStringLiteral("a")));
+            }
+            for (const QString &path : rowPaths(pane)) {
+                pane.tree()->setFocus();
+                pane.tree()->setCurrentIndex(pane.value(path));
+                pressKey(Qt::Key_Space);
+                QWidget *editor = pane.editor(path);
+                QVERIFY2(editor, qPrintable(path));
+                const QVector<QWidget *> expected = stops(editor);
+                for (QWidget *stop : expected) {
+                    QVERIFY2(stop->hasFocus(), qPrintable(path));
+                    pressKey(Qt::Key_Tab);
+                }
+                QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("OK"));
+                for (int i = expected.size() - 1; i >= 0; --i) {
+                    pressKey(Qt::Key_Backtab);
+                    QVERIFY2(expected.at(i)->hasFocus(), qPrintable(path));
+                }
+                pressKey(Qt::Key_Backtab);
+                QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("pane"));
+            }
         });
     }
 };
