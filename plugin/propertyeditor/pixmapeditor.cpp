@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "pixmapeditor.h"
-#include "cachedicons.h"
 #include "designerpropertymanager.h"
 #include "iconthemedialog.h"
 #include "propertyrows.h"
@@ -69,7 +68,14 @@ PixmapEditor::PixmapEditor(bool wholeIcon, DesignerPropertyManager *manager, QWi
 void PixmapEditor::setValue(const QVariant &value)
 {
     m_value = value;
-    showValue();
+    m_pathLabel->setText(
+        isKnownTheme(theme()) ? tr("[Theme] %1").arg(theme()) : QFileInfo(path()).fileName());
+    m_copyAction->setEnabled(!path().isEmpty() || !theme().isEmpty());
+}
+
+void PixmapEditor::setPicture(const QIcon &picture)
+{
+    m_previewLabel->setPixmap(picture.pixmap(previewExtent, previewExtent));
 }
 
 QString PixmapEditor::path() const
@@ -81,20 +87,6 @@ QString PixmapEditor::path() const
 QString PixmapEditor::theme() const
 {
     return m_wholeIcon ? m_value.value<PropertySheetIconValue>().theme() : QString();
-}
-
-void PixmapEditor::showValue()
-{
-    const QString themeText = iconThemeText(theme());
-    QPixmap preview;
-    if (!themeText.isEmpty())
-        preview = QIcon::fromTheme(theme()).pixmap(previewExtent, previewExtent);
-    else if (m_manager)
-        preview = QIcon(cachedPixmap(m_manager->pixmapCache(), PropertySheetPixmapValue(path())))
-                      .pixmap(previewExtent, previewExtent);
-    m_previewLabel->setPixmap(preview);
-    m_pathLabel->setText(themeText.isEmpty() ? QFileInfo(path()).fileName() : themeText);
-    m_copyAction->setEnabled(!path().isEmpty() || !theme().isEmpty());
 }
 
 void PixmapEditor::contextMenuEvent(QContextMenuEvent *event)
@@ -110,7 +102,7 @@ void PixmapEditor::contextMenuEvent(QContextMenuEvent *event)
 void PixmapEditor::chooseAsBefore()
 {
     const QString oldPath = path();
-    if (!iconThemeText(theme()).isEmpty())
+    if (isKnownTheme(theme()))
         chooseTheme();
     else if (oldPath.isEmpty() || oldPath.startsWith(QLatin1Char(':')))
         chooseResource();
@@ -158,7 +150,7 @@ void PixmapEditor::copyPath() { QApplication::clipboard()->setText(theme().isEmp
 void PixmapEditor::pastePath()
 {
     const QString line = QApplication::clipboard()->text().section(QLatin1Char('\n'), 0, 0);
-    if (m_wholeIcon && !iconThemeText(line).isEmpty())
+    if (m_wholeIcon && isKnownTheme(line))
         editTheme(line);
     else
         editPath(line);

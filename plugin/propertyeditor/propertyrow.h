@@ -48,7 +48,8 @@ public:
 
     virtual QString valueText() const = 0;
     virtual QIcon valueIcon() const { return QIcon(); }
-    virtual QString valueToolTip() const { return valueText(); }
+    /// Empty where the text says all.
+    virtual QString valueToolTip() const { return QString(); }
 
 protected:
     PropertyRow(DesignerPropertyManager *manager, Kind kind, const QString &name, PropertyRow *parent);

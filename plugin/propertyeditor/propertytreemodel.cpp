@@ -98,8 +98,10 @@ QVariant PropertyTreeModel::valueData(const PropertyRow *row, int role) const
         return row->valueText();
     case Qt::DecorationRole:
         return row->valueIcon();
-    case Qt::ToolTipRole:
-        return row->valueToolTip();
+    case Qt::ToolTipRole: {
+        const QString toolTip = row->valueToolTip();
+        return toolTip.isEmpty() ? row->valueText() : toolTip;
+    }
     case Qt::EditRole:
         return row->value();
     default:

@@ -21,6 +21,7 @@ public:
     QVariant value() const override { return m_editor->value(); }
     void setValue(const QVariant &value) override { m_editor->setValue(value); }
     void setModified(bool modified) override;
+    void setPicture(const QIcon &picture) override { m_editor->setPicture(picture); }
 
 signals:
     void resetProperty(PropertyRow *row);
