@@ -23,7 +23,8 @@ public:
     QList<QAction *> taskActions() const override;
 
 protected:
-    ContentsTaskMenu(const QString &actionText, QWidget *control, QObject *parent);
+    /// \a actionText outlives the menu and is for translators in the context of the menu class.
+    ContentsTaskMenu(const char *actionText, QWidget *control, QObject *parent);
 
     /// The form of the edit that runs, or ran last.
     QDesignerFormWindowInterface *formWindow() const { return m_formWindow; }
@@ -54,6 +55,7 @@ private:
     /// True if the dialog was accepted and everything an edit needs is still there, \a dialog included.
     bool run(QDialog *dialog);
 
+    const char *const m_actionText;
     QAction *const m_editAction;
     QPointer<QWidget> m_control;
     QPointer<QDesignerFormWindowInterface> m_formWindow;

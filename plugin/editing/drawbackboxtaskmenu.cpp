@@ -5,7 +5,7 @@
 #include "drawbackboxeditor.h"
 
 DrawbackBoxTaskMenu::DrawbackBoxTaskMenu(Vexa::DrawbackBoxGroup *group, QObject *parent)
-    : ContentsTaskMenu(tr("Edit DrawbackBox"), group, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit DrawbackBox"), group, parent)
 {
 }
 

@@ -9,7 +9,7 @@
 #include <QtWidgets/QUndoCommand>
 
 MatrixPushButtonsTaskMenu::MatrixPushButtonsTaskMenu(Vexa::AbstractMatrixOptions *matrix, QObject *parent)
-    : ContentsTaskMenu(tr("Edit Buttons"), matrix, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit Buttons"), matrix, parent)
 {
 }
 
@@ -44,7 +44,7 @@ void MatrixPushButtonsTaskMenu::push(QUndoCommand *command)
 }
 
 MatrixPopButtonsTaskMenu::MatrixPopButtonsTaskMenu(Vexa::MatrixPopButtons *matrix, QObject *parent)
-    : ContentsTaskMenu(tr("Edit Buttons"), matrix, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit Buttons"), matrix, parent)
 {
 }
 

@@ -89,7 +89,7 @@ protected:
         QStringList texts;
         for (const QAction *action : m_host->contextMenu(form, control)->actions())
             texts += action->text();
-        return texts.count(QLatin1String(entry));
+        return texts.count(QString::fromUtf8(entry));
     }
 
     /// The rows of the pane, which the button for it shows.
