@@ -26,6 +26,10 @@ namespace {
 constexpr int previewExtent = 16;
 constexpr int buttonWidth = 30;
 
+/// For the choosers that Designer and the host keep on the stack: a widget that outlives every form, or null.
+/// A child of the form's would be deleted with the form while it runs, and again by the stack.
+QWidget *chooserParent(const QDesignerFormEditorInterface *core) { return core->topLevel(); }
+
 } // namespace
 
 PixmapEditor::PixmapEditor(bool wholeIcon, DesignerPropertyManager *manager, QWidget *parent)
@@ -116,7 +120,8 @@ void PixmapEditor::chooseResource()
     if (!core || !core->integration() || !core->resourceModel())
         return;
     const QPointer<PixmapEditor> guard(this);
-    const QString chosen = IconSelector::choosePixmapResource(core, core->resourceModel(), path(), this);
+    const QString chosen
+        = IconSelector::choosePixmapResource(core, core->resourceModel(), path(), chooserParent(core));
     if (guard)
         editPath(chosen);
 }
@@ -127,7 +132,7 @@ void PixmapEditor::chooseFile()
     if (!core || !core->dialogGui())
         return;
     const QPointer<PixmapEditor> guard(this);
-    const QString chosen = IconSelector::choosePixmapFile(path(), core->dialogGui(), this);
+    const QString chosen = IconSelector::choosePixmapFile(path(), core->dialogGui(), chooserParent(core));
     if (guard)
         editPath(chosen);
 }
