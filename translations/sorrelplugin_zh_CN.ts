@@ -412,6 +412,13 @@
     </message>
 </context>
 <context>
+    <name>qdesigner_internal::PropertyTreeModel</name>
+    <message>
+        <source>This control does not keep it.</source>
+        <translation>此控件不保留该项。</translation>
+    </message>
+</context>
+<context>
     <name>qdesigner_internal::TextEditor</name>
     <message>
         <source>...</source>

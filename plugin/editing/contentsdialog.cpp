@@ -46,8 +46,8 @@ ContentsDialog::ContentsDialog(
     resize(550, 360);
 }
 
-ListContents ContentsDialog::load(const QString &title, const ListContents &contents, QWidget *control,
-    const qdesigner_internal::AbstractItemEditor::PropertyDefinition *properties)
+ListContents ContentsDialog::showContents(const QString &title, const ListContents &contents,
+    QWidget *control, const qdesigner_internal::AbstractItemEditor::PropertyDefinition *properties)
 {
     setWindowTitle(title);
     QListWidget *list = m_editor->listWidget();

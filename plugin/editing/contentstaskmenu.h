@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "keptcontents.h"
+
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtDesigner/QDesignerFormWindowInterface>
@@ -39,7 +41,8 @@ protected:
     template <class Dialog, class Control, class Contents, class CommandFor>
     bool editContents(Contents (Dialog::*fill)(Control *), CommandFor commandFor);
 
-    /// The usual edit: a \a Command from the old to the dialog's new contents unless they are equal.
+    /// The usual edit: a \a Command from the old to the dialog's new contents unless they are the same for
+    /// the control.
     template <class Command, class Dialog, class Control, class Contents>
     bool editContents(Contents (Dialog::*fill)(Control *));
 
@@ -83,7 +86,7 @@ bool ContentsTaskMenu::editContents(Contents (Dialog::*fill)(Control *))
     return editContents(
         fill, [this](Dialog &dialog, Control *control, const Contents &oldContents) -> QUndoCommand * {
             const Contents newContents = dialog.contents();
-            if (newContents == oldContents)
+            if (sameFor(control, newContents, oldContents))
                 return nullptr;
             auto *command = new Command(formWindow()); // belongs to the form's undo stack
             command->init(control, oldContents, newContents);

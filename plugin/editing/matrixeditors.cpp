@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "matrixeditors.h"
+#include "keptcontents.h"
 #include "ui_matrixpushbuttonseditor.h"
 
 #include "propertyeditor/cachedicons.h"
@@ -187,6 +188,7 @@ MatrixButtonsEditor::MatrixButtonsEditor(QDesignerFormWindowInterface *form, QDi
 
 MatrixContents MatrixButtonsEditor::fillContentsFromMatrixButtons(Vexa::AbstractMatrixOptions *matrix)
 {
+    setTellsApart(tellsApart<Vexa::AbstractMatrixOptions>);
     return load(MatrixContents::fromMatrixButtons(matrix), matrix);
 }
 
@@ -198,6 +200,7 @@ MatrixPopButtonsEditor::MatrixPopButtonsEditor(QDesignerFormWindowInterface *for
 
 MatrixContents MatrixPopButtonsEditor::fillContentsFromMatrixPopButtons(Vexa::MatrixPopButtons *matrix)
 {
+    setTellsApart(tellsApart<Vexa::MatrixPopButtons>);
     return load(MatrixContents::fromMatrixPopButtons(matrix), matrix);
 }
 

@@ -103,6 +103,18 @@ protected:
         return hidden && shown ? pane.names() : QStringList();
     }
 
+    /// The paths of all rows of a pane, sub rows included.
+    static QStringList rowPaths(const PaneDriver &pane)
+    {
+        QStringList paths;
+        for (const QString &row : pane.names()) {
+            paths += row;
+            for (const QString &part : pane.names(row))
+                paths += row + QLatin1Char('/') + part;
+        }
+        return paths;
+    }
+
     static void press(const QDialog *dialog, QDialogButtonBox::StandardButton button)
     {
         QTest::mouseClick(dialog->findChild<QDialogButtonBox *>()->button(button), Qt::LeftButton);

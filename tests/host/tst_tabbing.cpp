@@ -60,18 +60,6 @@ QString reversed(const QString &way)
     return names.join(QLatin1Char(' '));
 }
 
-/// The paths of all rows of a pane that can be opened.
-QStringList rowPaths(const PaneDriver &pane)
-{
-    QStringList paths;
-    for (const QString &row : pane.names()) {
-        paths += row;
-        for (const QString &part : pane.names(row))
-            paths += row + QLatin1Char('/') + part;
-    }
-    return paths;
-}
-
 /// The widgets of an open editor that take the keyboard, from left to right.
 QVector<QWidget *> stops(const QWidget *editor)
 {
