@@ -40,11 +40,11 @@ inline QString formText(const QString &fileName)
 }
 #endif
 
-/// Writes a small red picture.
-inline bool saveImage(const QString &path)
+/// Writes a small picture of one colour.
+inline bool saveImage(const QString &path, Qt::GlobalColor colour = Qt::red)
 {
     QImage image(16, 16, QImage::Format_RGB32);
-    image.fill(Qt::red);
+    image.fill(colour);
     return image.save(path);
 }
 

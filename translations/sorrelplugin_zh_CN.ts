@@ -80,6 +80,13 @@
     </message>
 </context>
 <context>
+    <name>ItemPropertyBrowser</name>
+    <message>
+        <source>XX Icon Selected off</source>
+        <translation>XX 图标选中，关</translation>
+    </message>
+</context>
+<context>
     <name>MatrixButtonsDialog</name>
     <message>
         <source>Edit Matrix buttons</source>
@@ -310,6 +317,10 @@
         <source>Theme</source>
         <translation>主题</translation>
     </message>
+    <message>
+        <source>[Theme] %1</source>
+        <translation>[主题] %1</translation>
+    </message>
 </context>
 <context>
     <name>qdesigner_internal::IconThemeDialog</name>
@@ -370,13 +381,6 @@
     </message>
 </context>
 <context>
-    <name>qdesigner_internal::ItemPropertyBrowser</name>
-    <message>
-        <source>XX Icon Selected off</source>
-        <translation>XX 图标选中，关</translation>
-    </message>
-</context>
-<context>
     <name>qdesigner_internal::PixmapEditor</name>
     <message>
         <source>Copy Path</source>
@@ -401,6 +405,17 @@
     <message>
         <source>...</source>
         <translation>...</translation>
+    </message>
+    <message>
+        <source>[Theme] %1</source>
+        <translation>[主题] %1</translation>
+    </message>
+</context>
+<context>
+    <name>qdesigner_internal::PropertyTreeModel</name>
+    <message>
+        <source>This control does not keep it.</source>
+        <translation>此控件不保留该项。</translation>
     </message>
 </context>
 <context>

@@ -28,7 +28,8 @@ ContentsDialog::ContentsDialog(
 {
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
 
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    // In the tab order it follows the editor, as the layout gives it its parent later.
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     connect(buttons, SIGNAL(accepted()), this, SLOT(accept()));
     connect(buttons, SIGNAL(rejected()), this, SLOT(reject()));
 
@@ -45,8 +46,8 @@ ContentsDialog::ContentsDialog(
     resize(550, 360);
 }
 
-ListContents ContentsDialog::load(const QString &title, const ListContents &contents, QWidget *control,
-    const qdesigner_internal::AbstractItemEditor::PropertyDefinition *properties)
+ListContents ContentsDialog::showContents(const QString &title, const ListContents &contents,
+    QWidget *control, const qdesigner_internal::AbstractItemEditor::PropertyDefinition *properties)
 {
     setWindowTitle(title);
     QListWidget *list = m_editor->listWidget();

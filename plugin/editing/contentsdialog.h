@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "listcontents.h"
+#include "keptcontents.h"
 #include "propertyeditor/itemlisteditor.h"
 
 #include <QtWidgets/QDialog>
@@ -20,8 +20,13 @@ protected:
 
     /// Shows \a contents of \a control, for each item with the rows of the static, zero-ended table \a
     /// properties. Returns \a contents.
-    ListContents load(const QString &title, const ListContents &contents, QWidget *control,
-        const qdesigner_internal::AbstractItemEditor::PropertyDefinition *properties);
+    template <class Control>
+    ListContents load(const QString &title, const ListContents &contents, Control *control,
+        const qdesigner_internal::AbstractItemEditor::PropertyDefinition *properties)
+    {
+        m_editor->setTellsApart(tellsApart<Control>);
+        return showContents(title, contents, control, properties);
+    }
 
     qdesigner_internal::ItemListEditor *itemListEditor() const { return m_editor; }
 
@@ -29,6 +34,9 @@ private slots:
     void noteChange() { m_changed = true; }
 
 private:
+    ListContents showContents(const QString &title, const ListContents &contents, QWidget *control,
+        const qdesigner_internal::AbstractItemEditor::PropertyDefinition *properties);
+
     qdesigner_internal::ItemListEditor *const m_editor;
     ListContents m_loaded; // what the list shows as long as nothing was changed
     bool m_changed = false;

@@ -4,17 +4,23 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QUndoStack>
 
-ContentsTaskMenu::ContentsTaskMenu(const QString &actionText, QWidget *control, QObject *parent)
+ContentsTaskMenu::ContentsTaskMenu(const char *actionText, QWidget *control, QObject *parent)
     : QObject(parent)
-    , m_editAction(new QAction(actionText, this))
+    , m_actionText(actionText)
+    , m_editAction(new QAction(this))
     , m_control(control)
 {
     connect(m_editAction, SIGNAL(triggered()), this, SLOT(editItems()));
 }
 
-QAction *ContentsTaskMenu::preferredEditAction() const { return m_editAction; }
+QAction *ContentsTaskMenu::preferredEditAction() const
+{
+    // Designer asks for it whenever it shows it, and the menu may be older than a translator.
+    m_editAction->setText(metaObject()->tr(m_actionText, nullptr));
+    return m_editAction;
+}
 
-QList<QAction *> ContentsTaskMenu::taskActions() const { return {m_editAction}; }
+QList<QAction *> ContentsTaskMenu::taskActions() const { return {preferredEditAction()}; }
 
 bool ContentsTaskMenu::findForm()
 {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "keptcontents.h"
+
 #include <QtCore/QObject>
 #include <QtCore/QPointer>
 #include <QtDesigner/QDesignerFormWindowInterface>
@@ -23,7 +25,8 @@ public:
     QList<QAction *> taskActions() const override;
 
 protected:
-    ContentsTaskMenu(const QString &actionText, QWidget *control, QObject *parent);
+    /// \a actionText outlives the menu and is for translators in the context of the menu class.
+    ContentsTaskMenu(const char *actionText, QWidget *control, QObject *parent);
 
     /// The form of the edit that runs, or ran last.
     QDesignerFormWindowInterface *formWindow() const { return m_formWindow; }
@@ -38,7 +41,8 @@ protected:
     template <class Dialog, class Control, class Contents, class CommandFor>
     bool editContents(Contents (Dialog::*fill)(Control *), CommandFor commandFor);
 
-    /// The usual edit: a \a Command from the old to the dialog's new contents unless they are equal.
+    /// The usual edit: a \a Command from the old to the dialog's new contents unless they are the same for
+    /// the control.
     template <class Command, class Dialog, class Control, class Contents>
     bool editContents(Contents (Dialog::*fill)(Control *));
 
@@ -54,6 +58,7 @@ private:
     /// True if the dialog was accepted and everything an edit needs is still there, \a dialog included.
     bool run(QDialog *dialog);
 
+    const char *const m_actionText;
     QAction *const m_editAction;
     QPointer<QWidget> m_control;
     QPointer<QDesignerFormWindowInterface> m_formWindow;
@@ -81,7 +86,7 @@ bool ContentsTaskMenu::editContents(Contents (Dialog::*fill)(Control *))
     return editContents(
         fill, [this](Dialog &dialog, Control *control, const Contents &oldContents) -> QUndoCommand * {
             const Contents newContents = dialog.contents();
-            if (newContents == oldContents)
+            if (sameFor(control, newContents, oldContents))
                 return nullptr;
             auto *command = new Command(formWindow()); // belongs to the form's undo stack
             command->init(control, oldContents, newContents);

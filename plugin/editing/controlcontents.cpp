@@ -194,6 +194,32 @@ std::function<void(Vexa::ComboBox *)> keepItems(Vexa::ComboBox *comboBox)
     };
 }
 
+ItemData keptBy(const Vexa::ComboBox *, const ItemData &entry)
+{
+    ItemData kept;
+    for (const int role : {int(ItemRole::Text), int(ItemRole::Icon)})
+        kept.setValue(role, entry.value(role));
+    kept.setText(ItemRole::Action, entry.text(ItemRole::Action));
+    return kept;
+}
+
+ItemData keptBy(const Vexa::CheckableTextComboBox *, const ItemData &entry)
+{
+    return checkComboLists.kept(entry);
+}
+
+ItemData keptBy(const Vexa::OptionComboBox *, const ItemData &entry) { return optionComboLists.kept(entry); }
+
+ItemData keptBy(const Vexa::OptionButtons *, const ItemData &entry)
+{
+    return optionLists<Vexa::OptionButtons>.kept(entry);
+}
+
+ItemData keptBy(const Vexa::OptionRadios *, const ItemData &entry)
+{
+    return optionLists<Vexa::OptionRadios>.kept(entry);
+}
+
 std::function<void(Vexa::CheckableTextComboBox *)> keepLists(Vexa::CheckableTextComboBox *checkCombo)
 {
     return checkComboLists.keep(checkCombo);

@@ -36,6 +36,14 @@ std::function<void(Vexa::OptionComboBox *)> keepLists(Vexa::OptionComboBox *opti
 std::function<void(Vexa::OptionButtons *)> keepLists(Vexa::OptionButtons *buttons);
 std::function<void(Vexa::OptionRadios *)> keepLists(Vexa::OptionRadios *radios);
 
+/// What the control keeps of an entry: the combo box all of a text and an icon, but of the rest and in the
+/// other controls strings alone.
+ItemData keptBy(const Vexa::ComboBox *comboBox, const ItemData &entry);
+ItemData keptBy(const Vexa::CheckableTextComboBox *checkCombo, const ItemData &entry);
+ItemData keptBy(const Vexa::OptionComboBox *optionCombo, const ItemData &entry);
+ItemData keptBy(const Vexa::OptionButtons *buttons, const ItemData &entry);
+ItemData keptBy(const Vexa::OptionRadios *radios, const ItemData &entry);
+
 /// Items get icons only with an \a iconCache; their text and icon values are stored with them in any case.
 /// The action list gets one name per item. As with addItem(), there are never more items than the combo
 /// box takes.

@@ -66,6 +66,13 @@ DrawbackBoxContents DrawbackBoxContents::fromDrawbackBoxGroup(const Vexa::Drawba
     return contents;
 }
 
+ItemData keptBy(const Vexa::DrawbackBoxGroup *, const ItemData &entry)
+{
+    ItemData kept;
+    kept.setText(ItemRole::Text, entry.text(ItemRole::Text));
+    return kept;
+}
+
 QVector<int> arrangeBoxes(int boxCount, const QVector<int> &initialIds, const QVector<int> &currentIds)
 {
     QVector<int> boxes(std::max(boxCount, 0));

@@ -17,6 +17,9 @@ struct DrawbackBoxContents {
     static DrawbackBoxContents fromDrawbackBoxGroup(const Vexa::DrawbackBoxGroup *group);
 };
 
+/// What the group keeps of an entry: the title.
+ItemData keptBy(const Vexa::DrawbackBoxGroup *group, const ItemData &entry);
+
 /// The boxes of a group after an edit of the ids that stand for them, where \a initialIds stand for the \a
 /// boxCount boxes before. Each number is the position of a box before or, if negative, a new box: -1 the
 /// first one to make, -2 the second and so on.

@@ -5,7 +5,7 @@
 #include "drawbackboxeditor.h"
 
 DrawbackBoxTaskMenu::DrawbackBoxTaskMenu(Vexa::DrawbackBoxGroup *group, QObject *parent)
-    : ContentsTaskMenu(tr("Edit DrawbackBox"), group, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit DrawbackBox"), group, parent)
 {
 }
 
@@ -14,7 +14,8 @@ void DrawbackBoxTaskMenu::editItems()
     const auto commandFor = [this](DrawbackBoxEditor &dialog, Vexa::DrawbackBoxGroup *group,
                                 const DrawbackBoxContents &oldContents) -> QUndoCommand * {
         const DrawbackBoxContents newContents = dialog.contents();
-        if (dialog.initialIds() == dialog.currentIds() && newContents.items == oldContents.items)
+        if (dialog.initialIds() == dialog.currentIds()
+            && sameFor(group, newContents.items, oldContents.items))
             return nullptr;
         auto *command = new ChangeDrawbackBoxCommand(formWindow()); // belongs to the form's undo stack
         command->init(group, oldContents, newContents, dialog.initialIds(), dialog.currentIds());

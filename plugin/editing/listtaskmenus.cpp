@@ -5,7 +5,7 @@
 #include "listdialogs.h"
 
 ComboBoxTaskMenu::ComboBoxTaskMenu(Vexa::ComboBox *comboBox, QObject *parent)
-    : ContentsTaskMenu(tr("Edit Items"), comboBox, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit Items"), comboBox, parent)
 {
 }
 
@@ -15,7 +15,7 @@ void ComboBoxTaskMenu::editItems()
 }
 
 CheckComboTaskMenu::CheckComboTaskMenu(Vexa::CheckableTextComboBox *checkCombo, QObject *parent)
-    : ContentsTaskMenu(tr("Edit Items"), checkCombo, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit Items"), checkCombo, parent)
 {
 }
 
@@ -25,7 +25,7 @@ void CheckComboTaskMenu::editItems()
 }
 
 OptionComboTaskMenu::OptionComboTaskMenu(Vexa::OptionComboBox *optionCombo, QObject *parent)
-    : ContentsTaskMenu(tr("Edit Items"), optionCombo, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit Items"), optionCombo, parent)
 {
 }
 
@@ -35,7 +35,7 @@ void OptionComboTaskMenu::editItems()
 }
 
 OptionButtonsTaskMenu::OptionButtonsTaskMenu(Vexa::OptionButtons *buttons, QObject *parent)
-    : ContentsTaskMenu(tr("Edit Buttons"), buttons, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit Buttons"), buttons, parent)
 {
 }
 
@@ -45,7 +45,7 @@ void OptionButtonsTaskMenu::editItems()
 }
 
 OptionRadiosTaskMenu::OptionRadiosTaskMenu(Vexa::OptionRadios *radios, QObject *parent)
-    : ContentsTaskMenu(tr("Edit Buttons"), radios, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit Buttons"), radios, parent)
 {
 }
 

@@ -176,6 +176,16 @@ void MatrixContents::applyToMatrixPopButtons(Vexa::MatrixPopButtons *matrix) con
     writeLists(*this, matrix);
 }
 
+ItemData keptBy(const Vexa::AbstractMatrixOptions *, const ItemData &cell)
+{
+    return matrixLists<Vexa::AbstractMatrixOptions>.kept(cell);
+}
+
+ItemData keptBy(const Vexa::MatrixPopButtons *, const ItemData &cell)
+{
+    return matrixLists<Vexa::MatrixPopButtons>.kept(cell);
+}
+
 std::function<void(Vexa::AbstractMatrixOptions *)> keepLists(Vexa::AbstractMatrixOptions *matrix)
 {
     return matrixLists<Vexa::AbstractMatrixOptions>.keep(matrix);

@@ -64,6 +64,10 @@ struct MatrixContents {
     }
 };
 
+/// What the control keeps of a cell: strings alone.
+ItemData keptBy(const Vexa::AbstractMatrixOptions *matrix, const ItemData &cell);
+ItemData keptBy(const Vexa::MatrixPopButtons *matrix, const ItemData &cell);
+
 /// What makes the lists of the control what they are now, to the last entry.
 std::function<void(Vexa::AbstractMatrixOptions *)> keepLists(Vexa::AbstractMatrixOptions *matrix);
 std::function<void(Vexa::MatrixPopButtons *)> keepLists(Vexa::MatrixPopButtons *matrix);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "matrixeditors.h"
+#include "keptcontents.h"
 #include "ui_matrixpushbuttonseditor.h"
 
 #include "propertyeditor/cachedicons.h"
@@ -40,6 +41,7 @@ MatrixEditor::MatrixEditor(QDesignerFormWindowInterface *form, QDialog *dialog)
 {
     m_ui->setupUi(dialog);
     injectPropertyBrowser(m_ui->tab, m_ui->widget);
+    m_ui->tableWidget->setFocus();
     connect(m_ui->showPropertiesButton, SIGNAL(clicked()), this, SLOT(togglePropertyBrowser()));
     m_ui->tableWidget->setSelectionMode(QAbstractItemView::SingleSelection);
     connect(m_ui->tableWidget, SIGNAL(currentCellChanged(int, int, int, int)), this,
@@ -186,6 +188,7 @@ MatrixButtonsEditor::MatrixButtonsEditor(QDesignerFormWindowInterface *form, QDi
 
 MatrixContents MatrixButtonsEditor::fillContentsFromMatrixButtons(Vexa::AbstractMatrixOptions *matrix)
 {
+    setTellsApart(tellsApart<Vexa::AbstractMatrixOptions>);
     return load(MatrixContents::fromMatrixButtons(matrix), matrix);
 }
 
@@ -197,6 +200,7 @@ MatrixPopButtonsEditor::MatrixPopButtonsEditor(QDesignerFormWindowInterface *for
 
 MatrixContents MatrixPopButtonsEditor::fillContentsFromMatrixPopButtons(Vexa::MatrixPopButtons *matrix)
 {
+    setTellsApart(tellsApart<Vexa::MatrixPopButtons>);
     return load(MatrixContents::fromMatrixPopButtons(matrix), matrix);
 }
 

@@ -9,7 +9,7 @@
 #include <QtWidgets/QUndoCommand>
 
 MatrixPushButtonsTaskMenu::MatrixPushButtonsTaskMenu(Vexa::AbstractMatrixOptions *matrix, QObject *parent)
-    : ContentsTaskMenu(tr("Edit Buttons"), matrix, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit Buttons"), matrix, parent)
 {
 }
 
@@ -18,7 +18,7 @@ void MatrixPushButtonsTaskMenu::editItems()
     const auto commandFor = [this](MatrixButtonsDialog &dialog, Vexa::AbstractMatrixOptions *matrix,
                                 const MatrixContents &oldContents) -> QUndoCommand * {
         const MatrixContents newContents = dialog.contents();
-        if (newContents == oldContents)
+        if (sameFor(matrix, newContents, oldContents))
             return nullptr;
         m_newSize = QSize(newContents.columnCount, newContents.rowCount);
         auto *command = new ChangeMatrixBtnsCommand(formWindow()); // belongs to the form's undo stack
@@ -44,7 +44,7 @@ void MatrixPushButtonsTaskMenu::push(QUndoCommand *command)
 }
 
 MatrixPopButtonsTaskMenu::MatrixPopButtonsTaskMenu(Vexa::MatrixPopButtons *matrix, QObject *parent)
-    : ContentsTaskMenu(tr("Edit Buttons"), matrix, parent)
+    : ContentsTaskMenu(QT_TR_NOOP("Edit Buttons"), matrix, parent)
 {
 }
 

@@ -41,13 +41,26 @@ struct StringLists {
         for (std::size_t i = 0; i < count; ++i) {
             if (index >= quint64(lists[i].size()))
                 continue;
-            const QString &string = lists[i].at(int(index));
-            if (fields[i].role == ItemRole::Icon)
-                entry.setIconPath(string);
-            else
-                entry.setText(fields[i].role, string);
+            setString(&entry, fields[i].role, lists[i].at(int(index)));
         }
         return entry;
+    }
+
+    /// What is left of \a entry once it has been in the lists.
+    ItemData kept(const ItemData &entry) const
+    {
+        ItemData kept;
+        for (const auto &field : fields)
+            setString(&kept, field.role, string(entry, field.role));
+        return kept;
+    }
+
+    static void setString(ItemData *entry, int role, const QString &string)
+    {
+        if (role == ItemRole::Icon)
+            entry->setIconPath(string);
+        else
+            entry->setText(role, string);
     }
 
     static QString string(const ItemData &entry, int role)

@@ -101,6 +101,10 @@ void AbstractItemEditor::setupProperties(const PropertyDefinition *table)
             continue;
         if (row->kind() == PropertyRow::String)
             static_cast<StringRow *>(row)->setValidationMode(validationMode(definition->role));
+        if (m_tellsApart)
+            row->findKept([this, role = definition->role](const QVariant &left, const QVariant &right) {
+                return m_tellsApart(role, left, right);
+            });
         m_rows += row;
         m_roles.insert(row, definition->role);
     }

@@ -7,6 +7,8 @@
 #include <QtCore/QVector>
 #include <QtWidgets/QWidget>
 
+#include <functional>
+
 QT_BEGIN_NAMESPACE
 class QAbstractButton;
 class QDesignerFormWindowInterface;
@@ -41,6 +43,11 @@ public:
         int (*typeFunc)();
         const char *name;
     };
+
+    /// Whether two values under a role come out differently from what the items belong to. Without it they
+    /// all do. To be set before the rows are made; those that make no difference say so.
+    using TellsApart = std::function<bool(int role, const QVariant &left, const QVariant &right)>;
+    void setTellsApart(const TellsApart &tellsApart) { m_tellsApart = tellsApart; }
 
 public slots:
     /// The icons that were resolved through the icon cache have to be resolved again.
@@ -80,6 +87,7 @@ private:
     void writeTwin(int role, const QVariant &value);
     void showItemData(PropertyRow *row);
 
+    TellsApart m_tellsApart;
     QPointer<DesignerIconCache> m_iconCache;
     DesignerPropertyManager *m_propertyManager;
     DesignerEditorFactory *m_editorFactory;

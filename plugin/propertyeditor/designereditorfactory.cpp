@@ -46,9 +46,11 @@ DesignerEditorFactory::DesignerEditorFactory(QObject *parent)
 
 ValueEditor *DesignerEditorFactory::createEditor(PropertyRow *row, QWidget *parent)
 {
-    ValueEditor *editor = createPlainEditor(row, parent);
-    if (!editor || !row->isResettable())
-        return editor;
+    if (!row->isResettable())
+        return createPlainEditor(row, parent);
+    ValueEditor *editor = createPlainEditor(row, nullptr); // the decorator gives it its parent
+    if (!editor)
+        return nullptr;
     auto *decorated = new ResetDecorator(editor, row, parent);
     connect(decorated, SIGNAL(resetProperty(PropertyRow *)), this, SIGNAL(resetProperty(PropertyRow *)));
     return decorated;

@@ -3,6 +3,7 @@
 #include "propertydelegate.h"
 #include "propertytreemodel.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QHeaderView>
@@ -41,7 +42,9 @@ bool ItemPropertyBrowser::isEmpty() const { return m_model->rowCount() == 0; }
 // Room for the widest name that there is.
 int ItemPropertyBrowser::nameColumnWidth() const
 {
-    return fontMetrics().horizontalAdvance(tr("XX Icon Selected off"));
+    // The context in which Designer's own catalogues have it.
+    return fontMetrics().horizontalAdvance(
+        QCoreApplication::translate("ItemPropertyBrowser", "XX Icon Selected off"));
 }
 
 QSize ItemPropertyBrowser::sizeHint() const

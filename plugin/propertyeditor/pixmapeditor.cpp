@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "pixmapeditor.h"
-#include "cachedicons.h"
 #include "designerpropertymanager.h"
 #include "iconthemedialog.h"
 #include "propertyrows.h"
@@ -26,6 +25,10 @@ namespace {
 
 constexpr int previewExtent = 16;
 constexpr int buttonWidth = 30;
+
+/// For the choosers that Designer and the host keep on the stack: a widget that outlives every form, or null.
+/// A child of the form's would be deleted with the form while it runs, and again by the stack.
+QWidget *chooserParent(const QDesignerFormEditorInterface *core) { return core->topLevel(); }
 
 } // namespace
 
@@ -69,7 +72,14 @@ PixmapEditor::PixmapEditor(bool wholeIcon, DesignerPropertyManager *manager, QWi
 void PixmapEditor::setValue(const QVariant &value)
 {
     m_value = value;
-    showValue();
+    m_pathLabel->setText(
+        isKnownTheme(theme()) ? tr("[Theme] %1").arg(theme()) : QFileInfo(path()).fileName());
+    m_copyAction->setEnabled(!path().isEmpty() || !theme().isEmpty());
+}
+
+void PixmapEditor::setPicture(const QIcon &picture)
+{
+    m_previewLabel->setPixmap(picture.pixmap(previewExtent, previewExtent));
 }
 
 QString PixmapEditor::path() const
@@ -81,20 +91,6 @@ QString PixmapEditor::path() const
 QString PixmapEditor::theme() const
 {
     return m_wholeIcon ? m_value.value<PropertySheetIconValue>().theme() : QString();
-}
-
-void PixmapEditor::showValue()
-{
-    const QString themeText = iconThemeText(theme());
-    QPixmap preview;
-    if (!themeText.isEmpty())
-        preview = QIcon::fromTheme(theme()).pixmap(previewExtent, previewExtent);
-    else if (m_manager)
-        preview = QIcon(cachedPixmap(m_manager->pixmapCache(), PropertySheetPixmapValue(path())))
-                      .pixmap(previewExtent, previewExtent);
-    m_previewLabel->setPixmap(preview);
-    m_pathLabel->setText(themeText.isEmpty() ? QFileInfo(path()).fileName() : themeText);
-    m_copyAction->setEnabled(!path().isEmpty() || !theme().isEmpty());
 }
 
 void PixmapEditor::contextMenuEvent(QContextMenuEvent *event)
@@ -110,7 +106,7 @@ void PixmapEditor::contextMenuEvent(QContextMenuEvent *event)
 void PixmapEditor::chooseAsBefore()
 {
     const QString oldPath = path();
-    if (!iconThemeText(theme()).isEmpty())
+    if (isKnownTheme(theme()))
         chooseTheme();
     else if (oldPath.isEmpty() || oldPath.startsWith(QLatin1Char(':')))
         chooseResource();
@@ -124,7 +120,8 @@ void PixmapEditor::chooseResource()
     if (!core || !core->integration() || !core->resourceModel())
         return;
     const QPointer<PixmapEditor> guard(this);
-    const QString chosen = IconSelector::choosePixmapResource(core, core->resourceModel(), path(), this);
+    const QString chosen
+        = IconSelector::choosePixmapResource(core, core->resourceModel(), path(), chooserParent(core));
     if (guard)
         editPath(chosen);
 }
@@ -135,7 +132,7 @@ void PixmapEditor::chooseFile()
     if (!core || !core->dialogGui())
         return;
     const QPointer<PixmapEditor> guard(this);
-    const QString chosen = IconSelector::choosePixmapFile(path(), core->dialogGui(), this);
+    const QString chosen = IconSelector::choosePixmapFile(path(), core->dialogGui(), chooserParent(core));
     if (guard)
         editPath(chosen);
 }
@@ -158,7 +155,7 @@ void PixmapEditor::copyPath() { QApplication::clipboard()->setText(theme().isEmp
 void PixmapEditor::pastePath()
 {
     const QString line = QApplication::clipboard()->text().section(QLatin1Char('\n'), 0, 0);
-    if (m_wholeIcon && !iconThemeText(line).isEmpty())
+    if (m_wholeIcon && isKnownTheme(line))
         editTheme(line);
     else
         editPath(line);

@@ -25,6 +25,7 @@ public:
 
     QVariant value() const override { return m_value; }
     void setValue(const QVariant &value) override;
+    void setPicture(const QIcon &picture) override;
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -43,7 +44,6 @@ private:
     void editPath(const QString &path);
     void editTheme(const QString &theme);
     void editValue(const QVariant &value);
-    void showValue();
 
     const bool m_wholeIcon;
     QPointer<DesignerPropertyManager> m_manager;

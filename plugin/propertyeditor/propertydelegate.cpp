@@ -68,6 +68,7 @@ void PropertyDelegate::setEditorData(QWidget *editor, const QModelIndex &index) 
     auto *valueEditor = static_cast<ValueEditor *>(editor);
     valueEditor->setValue(row->value());
     valueEditor->setModified(row->isModified());
+    valueEditor->setPicture(row->valueIcon());
 }
 
 void PropertyDelegate::setModelData(

@@ -2,9 +2,33 @@
 #include "propertyrow.h"
 #include "designerpropertymanager.h"
 
+#include <private/qdesigner_utils_p.h>
+
 #include <algorithm>
 
 namespace qdesigner_internal {
+
+namespace {
+
+/// Another value of the same type.
+QVariant otherThan(const QVariant &value)
+{
+    const QString text = QStringLiteral("x");
+    if (value.userType() == DesignerPropertyManager::designerStringTypeId())
+        return QVariant::fromValue(
+            PropertySheetStringValue(value.value<PropertySheetStringValue>().value() + text));
+    const PropertySheetPixmapValue pixmap(value.value<PropertySheetPixmapValue>().path() + text);
+    if (value.userType() == DesignerPropertyManager::designerIconTypeId())
+        return QVariant::fromValue(PropertySheetIconValue(pixmap));
+    if (value.userType() == DesignerPropertyManager::designerPixmapTypeId())
+        return QVariant::fromValue(pixmap);
+    if (value.userType() == QMetaType::Bool)
+        return !value.toBool();
+    return value.userType() == QMetaType::Int ? QVariant(value.toInt() + 1)
+                                              : QVariant(value.toString() + text);
+}
+
+} // namespace
 
 PropertyRow::PropertyRow(
     DesignerPropertyManager *manager, Kind kind, const QString &name, PropertyRow *parent)
@@ -47,6 +71,13 @@ void PropertyRow::edit(const QVariant &value)
         m_parent->edit(m_parent->withPart(m_parent->indexOf(this), value));
     else
         setValue(value);
+}
+
+void PropertyRow::findKept(const TellsApart &tellsApart)
+{
+    m_kept = tellsApart(value(), otherThan(value()));
+    for (int i = 0; i < childCount(); ++i)
+        child(i)->m_kept = tellsApart(value(), withPart(i, otherThan(part(i))));
 }
 
 QVariant PropertyRow::part(int) const { return QVariant(); }

@@ -5,6 +5,7 @@
 #include <QtCore/QVariant>
 #include <QtGui/QIcon>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -35,6 +36,12 @@ public:
     /// Whether the value is there rather than the default of its type.
     bool isModified() const { return m_modified; }
     void setModified(bool modified);
+    /// Whether what the row belongs to keeps its value.
+    bool isKept() const { return m_kept; }
+    /// Whether two values of a row that is no sub row come out differently from what keeps them.
+    using TellsApart = std::function<bool(const QVariant &, const QVariant &)>;
+    /// Finds out which of the row and its sub rows are kept.
+    void findKept(const TellsApart &tellsApart);
     /// Whether the row is edited with a reset button beside it.
     virtual bool isResettable() const { return !m_parent; }
 
@@ -48,7 +55,8 @@ public:
 
     virtual QString valueText() const = 0;
     virtual QIcon valueIcon() const { return QIcon(); }
-    virtual QString valueToolTip() const { return valueText(); }
+    /// Empty where the text says all.
+    virtual QString valueToolTip() const { return QString(); }
 
 protected:
     PropertyRow(DesignerPropertyManager *manager, Kind kind, const QString &name, PropertyRow *parent);
@@ -76,6 +84,7 @@ private:
     QString m_name;
     Kind m_kind;
     bool m_modified = false;
+    bool m_kept = true;
 };
 
 /// A row whose value is a T. T has an operator== that compares by value, which QVariant does not do for the

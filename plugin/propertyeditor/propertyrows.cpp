@@ -67,11 +67,7 @@ QIcon resolved(const DesignerPropertyManager *manager, const PropertySheetIconVa
 
 QString fileName(const PropertySheetPixmapValue &pixmap) { return QFileInfo(pixmap.path()).fileName(); }
 
-QString nativePath(const PropertySheetPixmapValue &pixmap)
-{
-    const QString path = pixmap.path();
-    return path.isEmpty() ? path : QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath());
-}
+QString nativePath(const PropertySheetPixmapValue &pixmap) { return QDir::toNativeSeparators(pixmap.path()); }
 
 } // namespace
 
@@ -113,6 +109,8 @@ ThemeRow::ThemeRow(DesignerPropertyManager *manager, const QString &name, Proper
 {
 }
 
+QIcon ThemeRow::valueIcon() const { return isKnownTheme(m_value) ? QIcon::fromTheme(m_value) : QIcon(); }
+
 IconStateRow::IconStateRow(DesignerPropertyManager *manager, const QString &name, QIcon::Mode mode,
     QIcon::State state, PropertyRow *parent)
     : TypedPropertyRow(manager, Pixmap, name, parent)
@@ -125,7 +123,10 @@ QString IconStateRow::valueText() const { return fileName(m_value); }
 
 QIcon IconStateRow::valueIcon() const
 {
-    const QIcon icon = resolved(manager(), parent()->value().value<PropertySheetIconValue>());
+    if (!m_value.path().isEmpty())
+        return QIcon(cachedPixmap(manager()->pixmapCache(), m_value));
+    const auto whole = parent()->value().value<PropertySheetIconValue>();
+    const QIcon icon = whole.paths().isEmpty() ? QIcon() : resolved(manager(), whole);
     return icon.isNull() ? icon : QIcon(icon.pixmap(previewExtent, previewExtent, m_mode, m_state));
 }
 
@@ -204,8 +205,8 @@ IconRow::IconRow(DesignerPropertyManager *manager, const QString &name)
 
 QString IconRow::valueText() const
 {
-    const QString theme = iconThemeText(m_value.theme());
-    return theme.isEmpty() ? fileName(m_value.pixmap(QIcon::Normal, QIcon::Off)) : theme;
+    return isKnownTheme(m_value.theme()) ? DesignerPropertyManager::tr("[Theme] %1").arg(m_value.theme())
+                                         : fileName(m_value.pixmap(QIcon::Normal, QIcon::Off));
 }
 
 QIcon IconRow::valueIcon() const
@@ -298,9 +299,6 @@ QVariant SizePolicyRow::withPart(int index, const QVariant &part) const
     return changed;
 }
 
-QString iconThemeText(const QString &theme)
-{
-    return theme.isEmpty() || !QIcon::hasThemeIcon(theme) ? QString() : QLatin1String("[Theme] ") + theme;
-}
+bool isKnownTheme(const QString &theme) { return !theme.isEmpty() && QIcon::hasThemeIcon(theme); }
 
 } // namespace qdesigner_internal

@@ -56,10 +56,11 @@ public:
     ThemeRow(DesignerPropertyManager *manager, const QString &name, PropertyRow *parent);
     bool isResettable() const override { return true; }
     QString valueText() const override { return m_value; }
+    QIcon valueIcon() const override;
 };
 
-/// The pixmap of an icon for a mode and a state. Shows what the whole icon looks like in them, which the
-/// pixmap of another state may give.
+/// The pixmap of an icon for a mode and a state. Without a file of its own it shows what the files of other
+/// states make of it.
 class IconStateRow : public TypedPropertyRow<PropertySheetPixmapValue> {
 public:
     IconStateRow(DesignerPropertyManager *manager, const QString &name, QIcon::Mode mode, QIcon::State state,
@@ -127,8 +128,8 @@ protected:
     QVariant withPart(int index, const QVariant &part) const override;
 };
 
-/// The name of \a theme as an icon's text, empty if the platform's icon theme has no such icon. Asking QIcon
-/// alone will not do: in Qt 5.15 it knows the empty name.
-QString iconThemeText(const QString &theme);
+/// Whether the platform's icon theme has an icon of this name. Asking QIcon alone will not do: in Qt 5.15 it
+/// knows the empty name.
+bool isKnownTheme(const QString &theme);
 
 } // namespace qdesigner_internal

@@ -73,12 +73,21 @@ QVariant PropertyTreeModel::data(const QModelIndex &index, int role) const
     return index.column() == NameColumn ? nameData(row, role) : valueData(row, role);
 }
 
+QString PropertyTreeModel::toolTip(const PropertyRow *row, const QString &text)
+{
+    if (row->isKept())
+        return text;
+    const QString note = tr("This control does not keep it.");
+    return text.isEmpty() ? note : text + QLatin1Char('\n') + note;
+}
+
 QVariant PropertyTreeModel::nameData(const PropertyRow *row, int role) const
 {
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return row->name();
+    case Qt::ToolTipRole:
+        return toolTip(row, row->name());
     case Qt::FontRole: {
         if (!row->isModified())
             return QVariant();
@@ -98,8 +107,10 @@ QVariant PropertyTreeModel::valueData(const PropertyRow *row, int role) const
         return row->valueText();
     case Qt::DecorationRole:
         return row->valueIcon();
-    case Qt::ToolTipRole:
-        return row->valueToolTip();
+    case Qt::ToolTipRole: {
+        const QString text = row->valueToolTip();
+        return toolTip(row, text.isEmpty() ? row->valueText() : text);
+    }
     case Qt::EditRole:
         return row->value();
     default:

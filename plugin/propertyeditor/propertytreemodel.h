@@ -37,6 +37,7 @@ private slots:
     void showChange(PropertyRow *row);
 
 private:
+    static QString toolTip(const PropertyRow *row, const QString &text);
     QVariant nameData(const PropertyRow *row, int role) const;
     QVariant valueData(const PropertyRow *row, int role) const;
 

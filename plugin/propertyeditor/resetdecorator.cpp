@@ -12,7 +12,7 @@ ResetDecorator::ResetDecorator(ValueEditor *editor, PropertyRow *row, QWidget *p
     : ValueEditor(parent)
     , m_editor(editor)
     , m_row(row)
-    , m_resetButton(new QToolButton(this))
+    , m_resetButton(new QToolButton)
 {
     constexpr int iconExtent = 8;
     m_resetButton->setIcon(createIconSet(QStringLiteral("resetproperty.png")));
@@ -20,6 +20,7 @@ ResetDecorator::ResetDecorator(ValueEditor *editor, PropertyRow *row, QWidget *p
     m_resetButton->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::MinimumExpanding);
     m_editor->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 
+    // Here they get their parent, so that they stand behind this one in the tab order, and the button last.
     QHBoxLayout *layout = addRow(m_editor);
     layout->addWidget(m_editor);
     layout->addWidget(m_resetButton);

@@ -15,12 +15,13 @@ class PropertyRow;
 class ResetDecorator : public ValueEditor {
     Q_OBJECT
 public:
-    /// Takes over \a editor, which edits \a row.
+    /// Takes over \a editor, which edits \a row and has no parent yet.
     ResetDecorator(ValueEditor *editor, PropertyRow *row, QWidget *parent);
 
     QVariant value() const override { return m_editor->value(); }
     void setValue(const QVariant &value) override { m_editor->setValue(value); }
     void setModified(bool modified) override;
+    void setPicture(const QIcon &picture) override { m_editor->setPicture(picture); }
 
 signals:
     void resetProperty(PropertyRow *row);

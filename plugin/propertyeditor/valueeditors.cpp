@@ -23,6 +23,7 @@ QHBoxLayout *ValueEditor::addRow(QWidget *focusWidget)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
+    setFocusPolicy(Qt::StrongFocus); // a view puts it behind itself in the tab order only with one
     setFocusProxy(focusWidget);
     return layout;
 }

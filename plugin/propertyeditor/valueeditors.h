@@ -26,6 +26,8 @@ public:
     virtual void setValue(const QVariant &value) = 0;
     /// Whether the value is there rather than a default.
     virtual void setModified(bool) { }
+    /// What the row shows before its text.
+    virtual void setPicture(const QIcon &) { }
 
 signals:
     /// The user has changed the value.

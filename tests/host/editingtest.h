@@ -89,7 +89,7 @@ protected:
         QStringList texts;
         for (const QAction *action : m_host->contextMenu(form, control)->actions())
             texts += action->text();
-        return texts.count(QLatin1String(entry));
+        return texts.count(QString::fromUtf8(entry));
     }
 
     /// The rows of the pane, which the button for it shows.
@@ -101,6 +101,18 @@ protected:
         press(dialog, "showPropertiesButton");
         const bool shown = pane.tree()->isVisible() && toggle->text() == QLatin1String("Properties &>>");
         return hidden && shown ? pane.names() : QStringList();
+    }
+
+    /// The paths of all rows of a pane, sub rows included.
+    static QStringList rowPaths(const PaneDriver &pane)
+    {
+        QStringList paths;
+        for (const QString &row : pane.names()) {
+            paths += row;
+            for (const QString &part : pane.names(row))
+                paths += row + QLatin1Char('/') + part;
+        }
+        return paths;
     }
 
     static void press(const QDialog *dialog, QDialogButtonBox::StandardButton button)

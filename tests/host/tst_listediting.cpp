@@ -9,6 +9,7 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QListWidget>
+#include <QtWidgets/QToolButton>
 
 using qdesigner_internal::PropertySheetIconValue;
 using qdesigner_internal::PropertySheetStringValue;
@@ -296,6 +297,38 @@ private slots:
         QCOMPARE(form->commandHistory()->index(), steps);
         if (way == QLatin1String("undo creation"))
             QVERIFY(form->commandHistory()->canRedo());
+    }
+
+    void formsMayBeClosedUnderAChooser_data()
+    {
+        QTest::addColumn<QString>("chooser");
+        for (const char *chooser : {"...", "Choose Resource...", "Choose File...", "Set Icon From Theme..."})
+            QTest::newRow(chooser) << QString::fromLatin1(chooser);
+    }
+    void formsMayBeClosedUnderAChooser()
+    {
+        QFETCH(QString, chooser);
+        const QPointer<FormWindow> form = newForm();
+        QWidget *control = drop(form, comboBoxKind);
+        bool shown = false;
+        QVERIFY(edit(form, control, comboBoxKind, [&](QDialog *dialog) {
+            press(dialog, "newListItemButton");
+            press(dialog, "showPropertiesButton");
+            PaneDriver pane(dialog);
+            QVERIFY(pane.open(QStringLiteral("icon")));
+            const QPointer<QDialog> open = dialog;
+            const auto choose = [&] {
+                if (!pane.trigger(QStringLiteral("icon"), qPrintable(chooser)))
+                    pane.moreButton(QStringLiteral("icon"))->click();
+            };
+            shown = withDialogs(choose, [&](QDialog *) {
+                close(form);
+                QVERIFY(!open);
+            });
+        }));
+        QVERIFY(shown);
+        QVERIFY(!form);
+        QVERIFY(!QApplication::activeModalWidget());
     }
 
     void hundredThousandItems_data() { addRows(kinds); }

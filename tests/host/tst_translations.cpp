@@ -3,6 +3,10 @@
 
 #include "editingtest.h"
 
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerTaskMenuExtension>
+#include <QtDesigner/QExtensionManager>
+
 #include <QtCore/QTranslator>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QListWidget>
@@ -97,6 +101,29 @@ private slots:
                  : QStringList(utf8(german ? "Neues Element" : "新建项")));
         QVERIFY(form->commandHistory()->count() > before);
         QCOMPARE(form->commandHistory()->text(before), utf8(expected.undo));
+    }
+
+    void menusFollowTheLanguage_data() { textsAreTranslated_data(); }
+    void menusFollowTheLanguage()
+    {
+        QFETCH(int, row);
+        const Expected &expected = expectedTexts[row];
+        m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged .*"));
+        FormWindow *form = newForm();
+        QWidget *control = drop(form, expected.control);
+        const auto *menu
+            = qt_extension<QDesignerTaskMenuExtension *>(m_host->core()->extensionManager(), control);
+        QVERIFY(menu);
+        const QString before = menu->preferredEditAction()->text();
+        QTranslator translator;
+        QVERIFY(translator.load(
+            QLatin1String("sorrelplugin_") + QLatin1String(expected.language), QStringLiteral(CATALOGUES)));
+        QVERIFY(QCoreApplication::installTranslator(&translator));
+        QCOMPARE(menu->taskActions().value(0)->text(), utf8(expected.menu));
+        QCOMPARE(entries(form, control, expected.menu), 1);
+        QVERIFY(QCoreApplication::removeTranslator(&translator));
+        QCOMPARE(menu->preferredEditAction()->text(), before);
+        QVERIFY(before.startsWith(QLatin1String("Edit ")));
     }
 
     /// Without a catalogue they are the same, and the drawback boxes' one takes no other's translation.
