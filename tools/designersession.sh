@@ -3,6 +3,9 @@
 # Sourced by the scripts that photograph the real Qt Designer: a virtual display with a window manager, a settings
 # folder of its own, and a Designer that loads the plugin of one folder alone.
 
+# shellcheck source=tools/qt5tool.sh
+source "$(dirname "${BASH_SOURCE[0]}")/qt5tool.sh"
+
 fail() {
     printf '%s: %s\n' "$(basename "$0")" "$*" >&2
     exit 1
@@ -17,17 +20,17 @@ cleanup() {
 }
 
 # Sets DISPLAY and scratch, a folder that goes with the script.
-start_session() { # PLUGINS
-    local plugins=$1 system_plugins kind display_fd number
+start_session() { # PLUGINS [WIDTHxHEIGHT]
+    local plugins=$1 screen=${2-1400x1000} system_plugins kind display_fd number
     scratch=$(mktemp -d)
     pids=()
     trap cleanup EXIT
 
     # A copy of the program with its own qt.conf finds our plugin and Qt's platform plugins, and no other.
-    system_plugins=$(qmake -qt=qt5 -query QT_INSTALL_PLUGINS 2>/dev/null || /usr/lib/qt5/bin/qmake -query QT_INSTALL_PLUGINS)
+    system_plugins=$("$(qt5_tool qmake)" -query QT_INSTALL_PLUGINS)
     mkdir -p "$scratch"/{bin,plugins,config/QtProject,runtime}
     chmod 700 "$scratch/runtime"
-    cp /usr/lib/qt5/bin/designer "$scratch/bin/"
+    cp "$(qt5_tool designer)" "$scratch/bin/"
     printf '[Paths]\nPlugins=%s\n' "$scratch/plugins" >"$scratch/bin/qt.conf"
     ln -s "$plugins/designer" "$scratch/plugins/designer"
     for kind in platforms imageformats iconengines xcbglintegrations platforminputcontexts; do
@@ -45,7 +48,7 @@ END
     unset QT_PLUGIN_PATH WAYLAND_DISPLAY QT_QPA_PLATFORM
 
     exec {display_fd}<> <(:)
-    Xvfb -displayfd "$display_fd" -screen 0 1400x1000x24 -nolisten tcp >"$scratch/xvfb.log" 2>&1 &
+    Xvfb -displayfd "$display_fd" -screen 0 "${screen}x24" -nolisten tcp >"$scratch/xvfb.log" 2>&1 &
     pids+=($!)
     read -r -t 20 -u "$display_fd" number || fail "the virtual display did not start: $(tail -n 1 "$scratch/xvfb.log")"
     export DISPLAY=:$number

@@ -30,7 +30,7 @@ QVector<QString> startingForms()
 {
     QVector<QString> forms;
     for (const char *folder : {EXAMPLES, CORPUS}) {
-        const QDir dir(QLatin1String(folder), QStringLiteral("*.ui"));
+        const QDir dir(QString::fromUtf8(folder), QStringLiteral("*.ui"));
         const QFileInfoList files = dir.entryInfoList();
         for (const QFileInfo &info : files) {
             QFile file(info.filePath());

@@ -7,13 +7,13 @@
 
 namespace {
 
-constexpr char example[] = EXAMPLES "/featurepanel.ui";
+QString example() { return QStringLiteral(EXAMPLES "/featurepanel.ui"); }
 
-QString exampleText() { return formText(QString::fromLatin1(example)); }
+QString exampleText() { return formText(example()); }
 
 QString reopened(DesignerHost &host)
 {
-    const auto *form = host.openForm(exampleText(), QString::fromLatin1(example));
+    const auto *form = host.openForm(exampleText(), example());
     return form ? DesignerHost::save(form) : QString();
 }
 

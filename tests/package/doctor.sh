@@ -49,6 +49,16 @@ else
 fi
 LD_LIBRARY_PATH=$build/standin expect 0 "the control library as $build/standin/libSorrel.so.0"
 
+[[ $("$source/tools/doctor" --help) == usage:* ]] || { echo '--help is unknown'; failures=1; }
+result=0
+"$source/tools/doctor" --halp >/dev/null 2>&1 || result=$?
+((result == 2)) || { echo "an unknown option ends with $result"; failures=1; }
+if ((EUID)); then
+    install_plugin
+    chmod a-r "$installed"
+    expect 1 "$installed cannot be read by"
+fi
+
 # The record of the build: minor version 16, then major version 6, then a debug build.
 install_plugin
 LC_ALL=C sed -i 's/\(QTMETADATA !.\x05\)\x0f/\1\x10/' "$installed"

@@ -201,7 +201,7 @@ private slots:
         QVERIFY(descriptor->codeTemplate().isEmpty());
         QVERIFY(descriptor->icon().isNull());
 
-        QFile file(QLatin1String(XML_FOLDER "/") + QLatin1String(expected.xml) + QLatin1String(".xml"));
+        QFile file(QStringLiteral(XML_FOLDER "/") + QLatin1String(expected.xml) + QLatin1String(".xml"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QString xml = QString::fromUtf8(file.readAll());
         xml.replace(QLatin1String("CLASS"), className);
