@@ -47,7 +47,11 @@ DesignerEditorFactory::DesignerEditorFactory(QObject *parent)
 ValueEditor *DesignerEditorFactory::createEditor(PropertyRow *row, QWidget *parent)
 {
     ValueEditor *editor = createPlainEditor(row, parent);
-    if (!editor || !row->isResettable())
+    if (!editor)
+        return nullptr;
+    for (QWidget *named = editor; named; named = named->focusProxy())
+        named->setAccessibleName(row->name());
+    if (!row->isResettable())
         return editor;
     auto *decorated = new ResetDecorator(editor, row, parent);
     connect(decorated, SIGNAL(resetProperty(PropertyRow *)), this, SIGNAL(resetProperty(PropertyRow *)));
