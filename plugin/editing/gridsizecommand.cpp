@@ -3,6 +3,7 @@
 
 #include "matrixeditors.h"
 
+#include <QtCore/QScopedValueRollback>
 #include <QtWidgets/QTableWidget>
 
 GridSizeCommand::GridSizeCommand(
@@ -44,8 +45,12 @@ void GridSizeCommand::apply()
 void GridSizeCommand::revert()
 {
     m_editor->setGridSize(m_direction, m_before);
-    for (const Cell &cell : qAsConst(m_cutOff))
-        m_table->setItem(cell.row, cell.column, cell.item);
+    {
+        // The cells are not renamed.
+        const QScopedValueRollback<bool> updating(m_editor->m_updatingBrowser, true);
+        for (const Cell &cell : qAsConst(m_cutOff))
+            m_table->setItem(cell.row, cell.column, cell.item);
+    }
     m_cutOff.clear();
     m_table->setCurrentCell(m_current.y(), m_current.x());
 }
