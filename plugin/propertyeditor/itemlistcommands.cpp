@@ -3,7 +3,7 @@
 #include "itemlisteditor.h"
 #include "itemrows.h"
 
-#include <QtWidgets/QListWidgetItem>
+#include <QtWidgets/QListWidget>
 
 namespace qdesigner_internal {
 
@@ -13,6 +13,7 @@ ItemRowsCommand::ItemRowsCommand(
     , m_editor(editor)
     , m_rows(rows)
     , m_items(items)
+    , m_selected(selectedRows(editor->listWidget()))
     , m_insertion(true)
 {
 }
@@ -29,7 +30,12 @@ ItemRowsCommand::~ItemRowsCommand() { qDeleteAll(m_items); }
 
 void ItemRowsCommand::apply() { m_insertion ? insert() : take(); }
 
-void ItemRowsCommand::revert() { m_insertion ? take() : insert(); }
+void ItemRowsCommand::revert()
+{
+    m_insertion ? take() : insert();
+    if (!m_selected.isEmpty())
+        selectRows(m_editor->listWidget(), m_selected, m_selected.last());
+}
 
 void ItemRowsCommand::insert()
 {

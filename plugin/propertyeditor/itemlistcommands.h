@@ -35,6 +35,7 @@ private:
     ItemListEditor *const m_editor;
     const QVector<int> m_rows;
     QVector<QListWidgetItem *> m_items;
+    const QVector<int> m_selected; ///< the selected rows before
     const bool m_insertion;
 };
 

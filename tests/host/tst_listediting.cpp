@@ -6,6 +6,9 @@
 
 #include <private/qdesigner_utils_p.h>
 
+#include <QtCore/QElapsedTimer>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QListWidget>
@@ -296,6 +299,36 @@ private slots:
         QCOMPARE(form->commandHistory()->index(), steps);
         if (way == QLatin1String("undo creation"))
             QVERIFY(form->commandHistory()->canRedo());
+    }
+
+    void pastedLinesAreOneStep_data() { addRows(kinds); }
+    void pastedLinesAreOneStep()
+    {
+        const Kind &kind = currentRow(kinds);
+        const QStringList texts = numbered(10000);
+        FormWindow *form = newForm();
+        QWidget *control = drop(form, kind, words("a b"));
+        form->commandHistory()->setClean();
+        const State before(form, control, dump);
+        QVERIFY(edit(form, control, kind, [&](QDialog *dialog) {
+            auto *list = dialog->findChild<QListWidget *>();
+            QTRY_VERIFY(dialog->isActiveWindow());
+            list->setFocus();
+            QGuiApplication::clipboard()->setText(texts.join(QLatin1String("\r\n")));
+            QElapsedTimer timer;
+            timer.start();
+            QTest::keyClick(list, Qt::Key_V, Qt::ControlModifier);
+            QVERIFY(timer.elapsed() < 1000);
+            QCOMPARE(list->count(), 10002);
+            QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(list->count(), 2);
+            QTest::keyClick(list, Qt::Key_V, Qt::ControlModifier);
+            press(dialog, QDialogButtonBox::Ok);
+        }));
+        QCOMPARE(strings(control, kind.fields.first()), words("a") + texts + words("b"));
+        QCOMPARE(form->commandHistory()->count(), before.index + 1);
+        form->commandHistory()->undo();
+        compareStates(State(form, control, dump), before);
     }
 
     void hundredThousandItems_data() { addRows(kinds); }
