@@ -29,8 +29,6 @@ ItemListEditor::ItemListEditor(QDesignerFormWindowInterface *form, QWidget *pare
     , m_ui(std::make_unique<Ui::ItemListEditor>())
 {
     m_ui->setupUi(this);
-    m_findLine = new FindLine(m_ui->listWidget, this);
-    m_ui->verticalLayout->insertWidget(1, m_findLine);
     m_countLabel = new QLabel(this);
     m_countLabel->setObjectName(QStringLiteral("countLabel"));
     m_countLabel->hide();
@@ -98,7 +96,14 @@ void ItemListEditor::makeActions()
     m_ui->listWidget->setAccessibleName(m_ui->listWidget->toolTip());
 }
 
-void ItemListEditor::openFindLine() { m_findLine->open(); }
+void ItemListEditor::openFindLine()
+{
+    if (!m_findLine) {
+        m_findLine = new FindLine(m_ui->listWidget, this);
+        m_ui->verticalLayout->insertWidget(1, m_findLine);
+    }
+    m_findLine->open();
+}
 
 void ItemListEditor::renameItem()
 {

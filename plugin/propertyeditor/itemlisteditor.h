@@ -97,7 +97,7 @@ private:
     QListWidgetItem *takeItem(int row);
 
     std::unique_ptr<Ui::ItemListEditor> m_ui;
-    FindLine *m_findLine;
+    FindLine *m_findLine = nullptr; ///< there once it was opened
     QLabel *m_countLabel;
     QString m_newItemText;
     bool m_updatingIndex = false;

@@ -3,6 +3,7 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QItemSelectionModel>
+#include <QtCore/QMimeData>
 #include <QtGui/QDropEvent>
 #include <QtWidgets/QStyledItemDelegate>
 
@@ -149,11 +150,21 @@ void ItemListWidget::dropEvent(QDropEvent *event)
         return;
     const QModelIndex index = indexAt(event->pos());
     const bool below = index.isValid() && event->pos().y() > visualRect(index).center().y();
-    // The rows are no copies of what the view would take away now.
-    event->setDropAction(Qt::CopyAction);
+    // After any other action the view may take the rows away that it has dragged.
+    event->setDropAction(Qt::IgnoreAction);
     event->accept();
     setState(NoState);
     emit rowsDropped(index.isValid() ? index.row() + below : count());
+}
+
+// Nobody else takes rows that are dragged, or they would be moved out of the list.
+QStringList ItemListWidget::mimeTypes() const { return {QStringLiteral("application/x-sorrelplugin-rows")}; }
+
+QMimeData *ItemListWidget::mimeData(const QList<QListWidgetItem *>) const
+{
+    auto *rows = new QMimeData; // belongs to the drag
+    rows->setData(mimeTypes().first(), QByteArray());
+    return rows;
 }
 
 void ItemListWidget::paintEvent(QPaintEvent *event)

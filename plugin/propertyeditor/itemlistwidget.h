@@ -26,6 +26,8 @@ signals:
 
 protected:
     void dropEvent(QDropEvent *event) override;
+    QStringList mimeTypes() const override;
+    QMimeData *mimeData(const QList<QListWidgetItem *> items) const override;
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void timerEvent(QTimerEvent *event) override;

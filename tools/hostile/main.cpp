@@ -95,6 +95,7 @@ void edit(Hunt &hunt, FormWindow *form, QWidget *control, Random &random)
             DialogHand hand(random, hunt.choosers);
             hand.use(dialog, random.below(6));
             counts.choosers += hand.chooserCounts();
+            counts.keys += hand.keyCounts();
             if (!hand.finding().isEmpty())
                 endWithFinding(hand.finding());
             const bool ok = !random.oneIn(6);
