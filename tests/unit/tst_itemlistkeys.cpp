@@ -67,6 +67,9 @@ private slots:
         QCOMPARE(line->text(), QStringLiteral("c"));
         QTest::keyClick(line, Qt::Key_Z, ctrl);
         QCOMPARE(line->text(), QStringLiteral("bc"));
+        for (const Qt::Key key : {Qt::Key_Insert, Qt::Key_Up, Qt::Key_D})
+            QTest::keyClick(line, key, key == Qt::Key_Insert ? Qt::NoModifier : ctrl);
+        QCOMPARE(editor.texts(), words("a bc"));
         QTest::keyClicks(line, QStringLiteral("x"));
         QTest::keyClick(line, Qt::Key_Return);
         QTRY_COMPARE(editor.texts().size(), 2);
@@ -108,6 +111,39 @@ private slots:
         QCOMPARE(editor.pane.valueText(QStringLiteral("text")), editor.list->currentItem()->text());
         editor.widget.history()->setIndex(0);
         QCOMPARE(editor.dump(), before);
+    }
+
+    void commentOfSeveralRowsLeavesTheirTexts()
+    {
+        Editor editor(words("a b"));
+        editor.widget.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
+        QTRY_VERIFY(editor.pane.tree()->width() > 200);
+        editor.select(QStringLiteral("0,1"));
+        QVERIFY(editor.pane.type(QStringLiteral("text/comment"), QStringLiteral("c")));
+        QCOMPARE(editor.dump(), (QStringList{QStringLiteral("a~c|-||a|"), QStringLiteral("b~c|-||b|")}));
+        editor.pane.tree()->setFocus();
+        QTest::keyClick(editor.pane.tree(), Qt::Key_Delete);
+        QCOMPARE(editor.texts(), words("a b"));
+    }
+
+    void keyStrokesInARowAreOneStep()
+    {
+        Editor editor(words("a b"));
+        editor.widget.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
+        QTRY_VERIFY(editor.pane.tree()->width() > 200);
+        const QUndoStack *history = editor.widget.history();
+        QVERIFY(editor.pane.type(QStringLiteral("text"), QStringLiteral("xyz")));
+        QCOMPARE(history->count(), 1);
+        editor.list->setFocus();
+        QVERIFY(editor.pane.type(QStringLiteral("text"), QStringLiteral("uvw")));
+        QCOMPARE(history->count(), 2);
+        for (const char *path : {":/a.png", ":/b.png"})
+            QVERIFY(editor.pane.pastePath(QStringLiteral("icon"), QLatin1String(path)));
+        QCOMPARE(history->count(), 4);
+        editor.press(Qt::Key_Z, ctrl);
+        editor.press(Qt::Key_Z, ctrl);
+        editor.press(Qt::Key_Z, ctrl);
+        QCOMPARE(editor.texts(), words("xyz b"));
     }
 
     void currentRowIsAlwaysOneOfTheSelected()
