@@ -449,6 +449,10 @@
         <source>%1 items</source>
         <translation>%1 Elemente</translation>
     </message>
+    <message>
+        <source>Paste Over</source>
+        <translation>Darüber einfügen</translation>
+    </message>
 </context>
 <context>
     <name>qdesigner_internal::ItemPropertyBrowser</name>

@@ -449,6 +449,10 @@
         <source>%1 items</source>
         <translation>%1 项</translation>
     </message>
+    <message>
+        <source>Paste Over</source>
+        <translation>粘贴并覆盖</translation>
+    </message>
 </context>
 <context>
     <name>qdesigner_internal::ItemPropertyBrowser</name>

@@ -12,8 +12,6 @@
 
 #include <QtCore/QMimeData>
 #include <QtCore/QScopedValueRollback>
-#include <QtGui/QClipboard>
-#include <QtGui/QGuiApplication>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QUndoStack>
 
@@ -89,6 +87,7 @@ void ItemListEditor::makeActions()
     actions.add(tr("Cut"), QKeySequence::keyBindings(QKeySequence::Cut), SLOT(cutItems()));
     actions.add(tr("Copy"), QKeySequence::keyBindings(QKeySequence::Copy), SLOT(copyItems()));
     actions.add(tr("Paste"), QKeySequence::keyBindings(QKeySequence::Paste), SLOT(pasteItems()));
+    actions.add(tr("Paste Over"), keys(Qt::CTRL + Qt::SHIFT + Qt::Key_V), SLOT(pasteOverItems()));
     actions.addSeparator();
     actions.add(tr("Find"), QKeySequence::keyBindings(QKeySequence::Find), SLOT(openFindLine()));
     actions.addSeparator();
@@ -173,46 +172,6 @@ void ItemListEditor::duplicateItems()
     for (const int row : selectedRows(m_ui->listWidget))
         values.append(valuesOf(m_ui->listWidget->model()->index(row, 0)));
     addItems(values);
-}
-
-void ItemListEditor::cutItems()
-{
-    copyItems();
-    on_deleteListItemButton_clicked();
-}
-
-void ItemListEditor::copyItems()
-{
-    ItemTable table;
-    TextTable texts;
-    for (const int row : selectedRows(m_ui->listWidget)) {
-        const ItemValues values = valuesOf(m_ui->listWidget->model()->index(row, 0));
-        QStringList cells;
-        for (const int role : roles())
-            cells.append(plainText(values.value(role)));
-        table.items.append(values);
-        texts.append(cells);
-    }
-    if (!texts.isEmpty())
-        qdesigner_internal::copyItems(table, texts);
-}
-
-void ItemListEditor::pasteItems()
-{
-    QVector<ItemValues> items = pastedItems().items;
-    const TextTable texts = items.isEmpty() ? toTextTable(QGuiApplication::clipboard()->text()) : TextTable();
-    const QVector<int> columns = roles();
-    for (const QStringList &row : texts) {
-        ItemValues values;
-        for (int column = 0; column < std::min(row.size(), columns.size()); ++column) {
-            const int role = columns.at(column);
-            // An empty line is an item with an empty text.
-            if (column == 0 || !row.at(column).isEmpty())
-                values.insert(role, fromPlainText(row.at(column), isIcon(role)));
-        }
-        items.append(values);
-    }
-    addItems(items);
 }
 
 void ItemListEditor::sortItems()

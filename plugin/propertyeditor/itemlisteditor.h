@@ -66,6 +66,7 @@ private slots:
     void cutItems();
     void copyItems();
     void pasteItems();
+    void pasteOverItems();
     void sortItems();
     void dropItems(int row);
     void openFindLine();
@@ -84,6 +85,7 @@ private:
     void updateButtons();
     QListWidgetItem *makeItem(const ItemValues &values) const;
     void addItems(const QVector<ItemValues> &values);
+    QVector<ItemValues> clipboardItems() const;
     void moveSelection(int step);
 
     // What the steps of the history do.

@@ -183,6 +183,21 @@ private slots:
         QVERIFY(editor.list->item(1)->flags() & Qt::ItemIsEditable);
     }
 
+    void textsArePastedOverRows()
+    {
+        Editor editor(words("a b c"));
+        editor.select(QStringLiteral("1"));
+        const QStringList before = editor.dump();
+        QGuiApplication::clipboard()->setText(QStringLiteral("x\ny\t\ttip\nz\n"));
+        editor.press(Qt::Key_V, ctrl | Qt::ShiftModifier);
+        QCOMPARE(editor.texts(), words("a x y"));
+        QCOMPARE(editor.list->item(2)->toolTip(), QStringLiteral("tip"));
+        QCOMPARE(editor.mirror, editor.texts());
+        QCOMPARE(editor.widget.history()->count(), 1);
+        editor.press(Qt::Key_Z, ctrl);
+        QCOMPARE(editor.dump(), before);
+    }
+
     void sortingKnowsNumbersAndIsStable()
     {
         Editor editor(words("item10 b item2 B item1 item2"));
