@@ -27,10 +27,15 @@ ItemListEditor::ItemListEditor(QDesignerFormWindowInterface *form, QWidget *pare
     , m_ui(std::make_unique<Ui::ItemListEditor>())
 {
     m_ui->setupUi(this);
-    m_countLabel = new QLabel(this);
+    // Over the list: anywhere else it would push the pane about when it comes.
+    m_countLabel = new QLabel(m_ui->listWidget);
     m_countLabel->setObjectName(QStringLiteral("countLabel"));
+    m_countLabel->setFrameShape(QFrame::StyledPanel);
+    m_countLabel->setAutoFillBackground(true);
+    m_countLabel->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_countLabel->hide();
-    m_ui->buttonsLayout->insertWidget(m_ui->buttonsLayout->count() - 1, m_countLabel);
+    auto *overlay = new QVBoxLayout(m_ui->listWidget);
+    overlay->addWidget(m_countLabel, 0, Qt::AlignRight | Qt::AlignBottom);
     injectPropertyBrowser(this, m_ui->widget);
     connect(m_ui->showPropertiesButton, SIGNAL(clicked()), this, SLOT(togglePropertyBrowser()));
     setPropertyBrowserVisible(false, m_ui->showPropertiesButton);
