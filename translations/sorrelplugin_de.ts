@@ -105,6 +105,33 @@
     </message>
 </context>
 <context>
+    <name>MatrixEditor</name>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy Whole Grid</source>
+        <translation>Ganze Matrix kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Paste Into</source>
+        <translation>Einfügen in</translation>
+    </message>
+    <message>
+        <source>Clear Cell</source>
+        <translation>Zelle leeren</translation>
+    </message>
+</context>
+<context>
     <name>MatrixPopButtonsDialog</name>
     <message>
         <source>Edit Matrix PopButtons</source>
@@ -264,6 +291,21 @@
     </message>
 </context>
 <context>
+    <name>qdesigner_internal::AbstractItemEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+</context>
+<context>
     <name>qdesigner_internal::DesignerPropertyManager</name>
     <message>
         <source>Normal Off</source>
@@ -323,6 +365,13 @@
     </message>
 </context>
 <context>
+    <name>qdesigner_internal::FindLine</name>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+</context>
+<context>
     <name>qdesigner_internal::IconThemeDialog</name>
     <message>
         <source>Set Icon From Theme</source>
@@ -378,6 +427,42 @@
     <message>
         <source>Properties &amp;&lt;&lt;</source>
         <translation>Eigenschaften &amp;&lt;&lt;</translation>
+    </message>
+    <message>
+        <source>Rename Item</source>
+        <translation>Element umbenennen</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Sort by Text</source>
+        <translation>Nach Text sortieren</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>%1 items</source>
+        <translation>%1 Elemente</translation>
+    </message>
+    <message>
+        <source>Paste Over</source>
+        <translation>Darüber einfügen</translation>
     </message>
 </context>
 <context>

@@ -105,6 +105,33 @@
     </message>
 </context>
 <context>
+    <name>MatrixEditor</name>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Copy Whole Grid</source>
+        <translation>复制整个网格</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Paste Into</source>
+        <translation>粘贴到</translation>
+    </message>
+    <message>
+        <source>Clear Cell</source>
+        <translation>清空单元格</translation>
+    </message>
+</context>
+<context>
     <name>MatrixPopButtonsDialog</name>
     <message>
         <source>Edit Matrix PopButtons</source>
@@ -264,6 +291,21 @@
     </message>
 </context>
 <context>
+    <name>qdesigner_internal::AbstractItemEditor</name>
+    <message>
+        <source>Properties</source>
+        <translation>属性</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>恢复</translation>
+    </message>
+</context>
+<context>
     <name>qdesigner_internal::DesignerPropertyManager</name>
     <message>
         <source>Normal Off</source>
@@ -323,6 +365,13 @@
     </message>
 </context>
 <context>
+    <name>qdesigner_internal::FindLine</name>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+</context>
+<context>
     <name>qdesigner_internal::IconThemeDialog</name>
     <message>
         <source>Set Icon From Theme</source>
@@ -378,6 +427,42 @@
     <message>
         <source>Properties &amp;&lt;&lt;</source>
         <translation>属性 &amp;&lt;&lt;</translation>
+    </message>
+    <message>
+        <source>Rename Item</source>
+        <translation>重命名项</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>复制为新项</translation>
+    </message>
+    <message>
+        <source>Sort by Text</source>
+        <translation>按文本排序</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>%1 items</source>
+        <translation>%1 项</translation>
+    </message>
+    <message>
+        <source>Paste Over</source>
+        <translation>粘贴并覆盖</translation>
     </message>
 </context>
 <context>

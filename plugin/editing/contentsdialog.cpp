@@ -4,6 +4,7 @@
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QListWidget>
+#include <QtWidgets/QUndoStack>
 #include <QtWidgets/QVBoxLayout>
 
 #include <algorithm>
@@ -59,6 +60,7 @@ ListContents ContentsDialog::showContents(const QString &title, const ListConten
              SIGNAL(rowsMoved(QModelIndex, int, int, QModelIndex, int)), SIGNAL(layoutChanged()),
              SIGNAL(modelReset())})
         connect(list->model(), signal, this, SLOT(noteChange()));
+    connect(m_editor->history(), SIGNAL(indexChanged(int)), this, SLOT(noteChange()));
     return contents;
 }
 

@@ -10,6 +10,8 @@
 
 #include <private/qdesigner_widget_p.h>
 
+#include <QtWidgets/QUndoStack>
+
 #include <algorithm>
 #include <numeric>
 
@@ -50,11 +52,14 @@ DrawbackBoxContents DrawbackBoxEditor::fillContentsFromDrawbackBoxGroup(Vexa::Dr
     m_initialIds.resize(contents.items.size());
     std::iota(m_initialIds.begin(), m_initialIds.end(), 0);
     m_currentIds = m_initialIds;
+    m_idsAt = {m_initialIds};
 
     connect(itemListEditor(), SIGNAL(itemMovedUp(int)), this, SLOT(itemMoveUp(int)));
     connect(itemListEditor(), SIGNAL(itemMovedDown(int)), this, SLOT(itemMoveDown(int)));
     connect(itemListEditor(), SIGNAL(itemInserted(int)), this, SLOT(itemInsert(int)));
     connect(itemListEditor(), SIGNAL(itemDeleted(int)), this, SLOT(itemDelete(int)));
+    connect(itemListEditor(), SIGNAL(itemsReordered(QVector<int>)), this, SLOT(itemsReorder(QVector<int>)));
+    connect(itemListEditor()->history(), SIGNAL(indexChanged(int)), this, SLOT(noteStep(int)));
     return contents;
 }
 
@@ -113,4 +118,24 @@ void DrawbackBoxEditor::itemDelete(int row)
 {
     if (row >= 0 && row < m_currentIds.size())
         m_currentIds.remove(row);
+}
+
+void DrawbackBoxEditor::itemsReorder(const QVector<int> &order)
+{
+    // Behind the rows there may be ids of boxes without one.
+    QVector<int> ids = m_currentIds;
+    for (int row = 0; row < order.size() && row < ids.size(); ++row)
+        ids[row] = m_currentIds.value(order.at(row));
+    m_currentIds = ids;
+}
+
+// A row that comes back is the box that it was, which is more than its insertion tells.
+void DrawbackBoxEditor::noteStep(int index)
+{
+    if (itemListEditor()->isReplaying()) {
+        m_currentIds = m_idsAt.value(index);
+        return;
+    }
+    m_idsAt.resize(index);
+    m_idsAt.append(m_currentIds);
 }

@@ -29,6 +29,8 @@ private slots:
     void itemMoveDown(int row);
     void itemInsert(int row);
     void itemDelete(int row);
+    void itemsReorder(const QVector<int> &order);
+    void noteStep(int index);
 
 private:
     QVector<DrawbackBoxHold> makeBoxes(int count) const;
@@ -36,6 +38,7 @@ private:
 
     QVector<int> m_currentIds;
     QVector<int> m_initialIds;
+    QVector<QVector<int>> m_idsAt; ///< the current ids at each place of the editor's history
     QPointer<QDesignerFormWindowInterface> m_form;
     QVector<DrawbackBoxHold> m_boxes;
 };

@@ -37,6 +37,7 @@ constexpr PropertyDefinition optionsProperties[]
 ComboBoxEditor::ComboBoxEditor(QDesignerFormWindowInterface *form, QWidget *parent)
     : ContentsDialog(tr("New Item"), form, parent)
 {
+    itemListEditor()->setExtendedSelection();
 }
 
 ListContents ComboBoxEditor::fillContentsFromComboBox(Vexa::ComboBox *comboBox)
@@ -47,6 +48,7 @@ ListContents ComboBoxEditor::fillContentsFromComboBox(Vexa::ComboBox *comboBox)
 CheckComboEditor::CheckComboEditor(QDesignerFormWindowInterface *form, QWidget *parent)
     : ContentsDialog(tr("New Item"), form, parent)
 {
+    itemListEditor()->setExtendedSelection();
 }
 
 ListContents CheckComboEditor::fillContentsFromCheckCombo(Vexa::CheckableTextComboBox *checkCombo)
@@ -57,6 +59,7 @@ ListContents CheckComboEditor::fillContentsFromCheckCombo(Vexa::CheckableTextCom
 OptionComboEditor::OptionComboEditor(QDesignerFormWindowInterface *form, QWidget *parent)
     : ContentsDialog(tr("New Item"), form, parent)
 {
+    itemListEditor()->setExtendedSelection();
 }
 
 ListContents OptionComboEditor::fillContentsFromOptionCombo(Vexa::OptionComboBox *optionCombo)
@@ -67,6 +70,7 @@ ListContents OptionComboEditor::fillContentsFromOptionCombo(Vexa::OptionComboBox
 OptionsEditor::OptionsEditor(QDesignerFormWindowInterface *form, QWidget *parent)
     : ContentsDialog(tr("New Item"), form, parent)
 {
+    itemListEditor()->setExtendedSelection();
 }
 
 ListContents OptionsEditor::fillContentsFromOptionButtons(Vexa::OptionButtons *buttons)

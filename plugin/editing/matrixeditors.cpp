@@ -3,6 +3,7 @@
 #include "keptcontents.h"
 #include "ui_matrixpushbuttonseditor.h"
 
+#include "gridsizecommand.h"
 #include "propertyeditor/cachedicons.h"
 #include "propertyeditor/designerpropertymanager.h"
 
@@ -13,6 +14,7 @@
 
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QSignalBlocker>
+#include <QtWidgets/QUndoStack>
 
 using qdesigner_internal::DesignerPropertyManager;
 using qdesigner_internal::PropertySheetStringValue;
@@ -50,6 +52,8 @@ MatrixEditor::MatrixEditor(QDesignerFormWindowInterface *form, QDialog *dialog)
         SLOT(on_tableWidget_itemChanged(QTableWidgetItem *)));
     connect(m_ui->rowCounts, SIGNAL(valueChanged(int)), this, SLOT(on_rowCountsChanged(int)));
     connect(m_ui->colCounts, SIGNAL(valueChanged(int)), this, SLOT(on_colCountsChanged(int)));
+    connect(history(), SIGNAL(indexChanged(int)), this, SLOT(noteChange()));
+    makeActions(dialog);
 }
 
 MatrixEditor::~MatrixEditor() = default;
@@ -71,6 +75,7 @@ MatrixContents MatrixEditor::load(const MatrixContents &contents, QWidget *matri
         m_ui->colCounts->setValue(columns);
     }
     setupEditor(matrix, matrixButtonPropList);
+    makePasteMenu();
     if (columns > 0 && rows > 0)
         m_ui->tableWidget->setCurrentCell(0, 0);
     updateEditor();
@@ -102,25 +107,31 @@ void MatrixEditor::updateEditor()
 
 void MatrixEditor::on_rowCountsChanged(int rowCounts)
 {
-    const int column = m_ui->tableWidget->currentColumn();
-    m_changed |= rowCounts != m_ui->tableWidget->rowCount();
-    m_ui->tableWidget->setRowCount(rowCounts);
-    updateEditor();
-    // One step back on purpose: from the first column no cell stays current.
-    m_ui->tableWidget->setCurrentCell(rowCounts - 1, column - 1);
+    // belongs to the history
+    history()->push(new GridSizeCommand(this, m_ui->tableWidget, Qt::Vertical, rowCounts));
 }
 
 void MatrixEditor::on_colCountsChanged(int colCounts)
 {
-    const int row = m_ui->tableWidget->currentRow();
-    m_changed |= colCounts != m_ui->tableWidget->columnCount();
-    m_ui->tableWidget->setColumnCount(colCounts);
+    // belongs to the history
+    history()->push(new GridSizeCommand(this, m_ui->tableWidget, Qt::Horizontal, colCounts));
+}
+
+void MatrixEditor::setGridSize(Qt::Orientation direction, int count)
+{
+    QSpinBox *box = direction == Qt::Vertical ? m_ui->rowCounts : m_ui->colCounts;
+    const QSignalBlocker blocker(box);
+    box->setValue(count);
+    if (direction == Qt::Vertical)
+        m_ui->tableWidget->setRowCount(count);
+    else
+        m_ui->tableWidget->setColumnCount(count);
     updateEditor();
-    m_ui->tableWidget->setCurrentCell(row - 1, colCounts - 1); // as for the rows
 }
 
 void MatrixEditor::on_tableWidget_currentCellChanged(int, int, int, int)
 {
+    endTyping();
     // Without a cell the pane would take input and lose it.
     if (m_ui->tableWidget->currentIndex().isValid())
         updateBrowser();
@@ -131,27 +142,26 @@ void MatrixEditor::on_tableWidget_currentCellChanged(int, int, int, int)
 void MatrixEditor::on_tableWidget_itemChanged(QTableWidgetItem *item)
 {
     m_changed = true;
-    if (m_updatingBrowser)
-        return;
-    // A cell that was opened and left empty gets no text where it had none.
-    if (item->text().isEmpty() && !item->data(ItemRole::Text).isValid())
-        return;
-    auto text = item->data(ItemRole::Text).value<PropertySheetStringValue>();
-    text.setValue(item->text());
-    const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
-    item->setData(ItemRole::Text, QVariant::fromValue(text));
-    updateBrowser();
+    if (!m_updatingBrowser)
+        noteRenaming(m_ui->tableWidget->model()->index(item->row(), item->column()));
 }
+
+QAbstractItemView *MatrixEditor::itemView() const { return m_ui->tableWidget; }
 
 void MatrixEditor::setItemData(int role, const QVariant &value)
 {
-    const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
-    QTableWidget *table = m_ui->tableWidget;
-    if (!table->currentIndex().isValid())
-        return;
-    if (!table->currentItem())
-        table->setItem(table->currentRow(), table->currentColumn(), new QTableWidgetItem);
-    table->currentItem()->setData(role, value);
+    if (m_ui->tableWidget->currentIndex().isValid())
+        editItems({m_ui->tableWidget->currentIndex()}, role, value);
+}
+
+void MatrixEditor::writeItem(const QModelIndex &item, int role, const QVariant &value)
+{
+    m_ui->tableWidget->model()->setData(item, value, role);
+}
+
+void MatrixEditor::showItems(const QModelIndexList &items)
+{
+    m_ui->tableWidget->setCurrentIndex(items.first());
 }
 
 QVariant MatrixEditor::getItemData(int role) const

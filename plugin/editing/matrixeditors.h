@@ -8,6 +8,7 @@
 
 #include <memory>
 
+class QAction;
 class QTableWidgetItem;
 
 namespace Ui {
@@ -31,10 +32,14 @@ protected:
     MatrixContents load(const MatrixContents &contents, QWidget *matrix);
     void setPropertyBrowserVisible(bool visible);
 
+    QAbstractItemView *itemView() const override;
     void setItemData(int role, const QVariant &value) override;
     QVariant getItemData(int role) const override;
     int defaultItemFlags() const override;
+    void writeItem(const QModelIndex &item, int role, const QVariant &value) override;
+    void showItems(const QModelIndexList &items) override;
     void cacheReloaded() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
     void togglePropertyBrowser();
@@ -42,9 +47,25 @@ private slots:
     void on_tableWidget_itemChanged(QTableWidgetItem *item);
     void on_rowCountsChanged(int rowCounts);
     void on_colCountsChanged(int colCounts);
+    void noteChange() { m_changed = true; }
+    void copyCell();
+    void cutCell();
+    void copyGrid();
+    void clearCell();
+    void paste();
+    void pasteInto(QAction *role);
 
 private:
+    friend class GridSizeCommand;
+    void setGridSize(Qt::Orientation direction, int count);
+
+    void makeActions(QDialog *dialog);
+    void makePasteMenu();
     void updateEditor();
+    void copy(const QRect &cells);
+    void pasteTexts(int role);
+    /// Replaces what the cells from the current one on hold under \a roles.
+    void setCells(const qdesigner_internal::ItemTable &cells, const QVector<int> &roles);
 
     const std::unique_ptr<Ui::MatrixPushButtonsEditor> m_ui;
     MatrixContents m_loaded;

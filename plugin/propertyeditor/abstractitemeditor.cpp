@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "abstractitemeditor.h"
-#include "cachedicons.h"
 #include "designereditorfactory.h"
 #include "designerpropertymanager.h"
 #include "hosttranslation.h"
@@ -11,32 +10,21 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QScopedValueRollback>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QSplitter>
+#include <QtWidgets/QUndoStack>
+
+#include <iterator>
 
 namespace qdesigner_internal {
 
 namespace {
-
-// The role under which an item shows what it holds under a property role, -1 if it shows nothing of it.
-int displayRole(int role)
-{
-    switch (role) {
-    case Qt::DisplayPropertyRole:
-        return Qt::EditRole;
-    case Qt::DecorationPropertyRole:
-        return Qt::DecorationRole;
-    case Qt::ToolTipPropertyRole:
-        return Qt::ToolTipRole;
-    case Qt::StatusTipPropertyRole:
-        return Qt::StatusTipRole;
-    case Qt::WhatsThisPropertyRole:
-        return Qt::WhatsThisRole;
-    default:
-        return -1;
-    }
-}
 
 TextPropertyValidationMode validationMode(int role)
 {
@@ -63,7 +51,10 @@ AbstractItemEditor::AbstractItemEditor(QDesignerFormWindowInterface *form, QWidg
     , m_propertyManager(new DesignerPropertyManager(form, this))
     , m_editorFactory(new DesignerEditorFactory(this))
     , m_propertyBrowser(new ItemPropertyBrowser(m_propertyManager, m_editorFactory, this))
+    , m_history(new QUndoStack(this))
 {
+    m_propertyBrowser->setAccessibleName(tr("Properties"));
+    connect(qApp, SIGNAL(focusChanged(QWidget *, QWidget *)), this, SLOT(beginFocus()));
     setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
     connect(m_editorFactory, SIGNAL(resetProperty(PropertyRow *)), this, SLOT(resetProperty(PropertyRow *)));
     connect(m_propertyManager, SIGNAL(valueChanged(PropertyRow *, QVariant)), this,
@@ -86,6 +77,7 @@ void AbstractItemEditor::setupEditor(QWidget *object, const PropertyDefinition *
 {
     setupProperties(table);
     m_propertyManager->setObject(object);
+    m_history->clear();
 }
 
 void AbstractItemEditor::setupProperties(const PropertyDefinition *table)
@@ -151,6 +143,8 @@ void AbstractItemEditor::propertyChanged(PropertyRow *row)
     if (m_updatingBrowser || !m_roles.contains(row))
         return;
     const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
+    const bool isText = row->kind() == PropertyRow::String;
+    const QScopedValueRollback<ItemEdit> edit(m_paneEdit, isText ? ItemEdit::Typing : ItemEdit::Choice);
     writeBack(row, isEmptyIcon(row) ? QVariant() : row->value());
 }
 
@@ -168,20 +162,116 @@ void AbstractItemEditor::resetProperty(PropertyRow *row)
 
 void AbstractItemEditor::writeBack(PropertyRow *row, const QVariant &value)
 {
-    const int role = m_roles.value(row);
-    setItemData(role, value);
-    writeTwin(role, value);
+    setItemData(m_roles.value(row), value);
     showItemData(row);
 }
 
-void AbstractItemEditor::writeTwin(int role, const QVariant &value)
+void AbstractItemEditor::editItems(const QModelIndexList &items, int role, const QVariant &value)
 {
-    const int twin = displayRole(role);
-    if (twin == Qt::DecorationRole) {
-        setItemData(twin, cachedIcon(m_iconCache, value.value<PropertySheetIconValue>()));
-    } else if (twin != -1) {
-        setItemData(twin, value.value<PropertySheetStringValue>().value());
+    QVector<ItemChange> changes;
+    changes.reserve(items.size());
+    for (const QModelIndex &item : items) {
+        const QVariant before = item.data(role);
+        const QVariant after
+            = changes.isEmpty() ? value : withSameChange(before, changes.first().before, value);
+        changes.append({item.row(), item.column(), role, before, after});
     }
+    changeItems(changes, m_paneEdit);
+}
+
+void AbstractItemEditor::noteRenaming(const QModelIndex &item)
+{
+    const QVariant before = item.data(Qt::DisplayPropertyRole);
+    auto text = before.value<PropertySheetStringValue>();
+    text.setValue(item.data().toString());
+    // An editor that was opened and left empty adds no text where there was none.
+    if (!text.value().isEmpty() || before.isValid())
+        changeItems({{item.row(), item.column(), Qt::DisplayPropertyRole, before, QVariant::fromValue(text)}},
+            ItemEdit::InPlace);
+}
+
+void AbstractItemEditor::changeItems(const QVector<ItemChange> &changes, ItemEdit edit)
+{
+    if (!changes.isEmpty())
+        m_history->push(new ItemDataCommand(this, changes, edit, m_session)); // belongs to the history
+}
+
+void AbstractItemEditor::writeChanges(
+    const QVector<ItemChange> &changes, QVariant ItemChange::*value, ItemEdit edit)
+{
+    QAbstractItemModel *model = itemView()->model();
+    QModelIndexList items;
+    {
+        const QScopedValueRollback<bool> updating(m_updatingBrowser, true);
+        for (const ItemChange &change : changes) {
+            const QModelIndex item = model->index(change.row, change.column);
+            items.append(item);
+            writeItem(item, change.role, change.*value);
+            const int shown = shownRole(change.role);
+            if (shown == -1)
+                continue;
+            const QVariant twin = shownValue(change.role, change.*value, m_iconCache);
+            if (edit == ItemEdit::InPlace)
+                model->setData(item, twin, shown);
+            else
+                writeItem(item, shown, twin);
+        }
+    }
+    if (m_replaying) {
+        endTyping();
+        showItems(items);
+    }
+    // What came from the pane is there already.
+    if (!m_updatingBrowser && itemView()->currentIndex().isValid())
+        updateBrowser();
+}
+
+QVector<int> AbstractItemEditor::roles() const
+{
+    QVector<int> roles;
+    for (PropertyRow *row : m_rows)
+        roles.append(m_roles.value(row));
+    return roles;
+}
+
+QString AbstractItemEditor::nameOf(int role) const { return rowOf(role)->name(); }
+
+bool AbstractItemEditor::isIcon(int role) const { return rowOf(role)->kind() == PropertyRow::Icon; }
+
+ItemValues AbstractItemEditor::valuesOf(const QModelIndex &item) const
+{
+    ItemValues values;
+    for (const int role : m_roles) {
+        const QVariant value = item.data(role);
+        if (value.isValid())
+            values.insert(role, value);
+    }
+    return values;
+}
+
+ItemTable AbstractItemEditor::pastedItems() const
+{
+    ItemTable table = copiedItems(QGuiApplication::clipboard()->mimeData());
+    for (ItemValues &values : table.items) {
+        for (auto it = values.begin(); it != values.end();) {
+            const PropertyRow *row = rowOf(it.key());
+            const bool icon = it.value().userType() == qMetaTypeId<PropertySheetIconValue>();
+            const bool offered = row && icon == (row->kind() == PropertyRow::Icon)
+                && !(icon && it.value().value<PropertySheetIconValue>().isEmpty());
+            it = offered ? std::next(it) : values.erase(it);
+        }
+    }
+    return table;
+}
+
+QList<QAction *> AbstractItemEditor::addHistoryActions(QWidget *widget)
+{
+    QAction *undo = m_history->createUndoAction(this, tr("Undo"));
+    undo->setShortcuts(QKeySequence::Undo);
+    QAction *redo = m_history->createRedoAction(this, tr("Redo"));
+    redo->setShortcuts(QKeySequence::Redo);
+    widget->addActions({undo, redo});
+    return {undo, redo};
 }
 
 void AbstractItemEditor::cacheReloaded()

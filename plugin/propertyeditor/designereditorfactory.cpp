@@ -46,11 +46,15 @@ DesignerEditorFactory::DesignerEditorFactory(QObject *parent)
 
 ValueEditor *DesignerEditorFactory::createEditor(PropertyRow *row, QWidget *parent)
 {
-    if (!row->isResettable())
-        return createPlainEditor(row, parent);
-    ValueEditor *editor = createPlainEditor(row, nullptr); // the decorator gives it its parent
+    const bool plain = !row->isResettable();
+    ValueEditor *editor
+        = createPlainEditor(row, plain ? parent : nullptr); // the decorator gives it its parent
     if (!editor)
         return nullptr;
+    for (QWidget *named = editor; named; named = named->focusProxy())
+        named->setAccessibleName(row->name());
+    if (plain)
+        return editor;
     auto *decorated = new ResetDecorator(editor, row, parent);
     connect(decorated, SIGNAL(resetProperty(PropertyRow *)), this, SIGNAL(resetProperty(PropertyRow *)));
     return decorated;

@@ -2,6 +2,9 @@
 #include "itemlistwidget.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QItemSelectionModel>
+#include <QtCore/QMimeData>
+#include <QtGui/QDropEvent>
 #include <QtWidgets/QStyledItemDelegate>
 
 #include <algorithm>
@@ -12,6 +15,17 @@ namespace {
 
 // How many rows are measured in one go: about as many as are seen at a time, half a millisecond's work.
 constexpr int rowsPerStep = 100;
+
+/// A program that makes a row current in a list where several rows can be selected means that row alone.
+class RowSelection : public QItemSelectionModel {
+public:
+    using QItemSelectionModel::QItemSelectionModel;
+
+    void setCurrentIndex(const QModelIndex &index, SelectionFlags command) override
+    {
+        QItemSelectionModel::setCurrentIndex(index, command == SelectCurrent ? ClearAndSelect : command);
+    }
+};
 
 } // namespace
 
@@ -92,6 +106,7 @@ ItemListWidget::ItemListWidget(QWidget *parent)
     , m_sizes(new RowSizes(this))
 {
     setItemDelegate(m_sizes);
+    setSelectionModel(new RowSelection(model(), this));
     connect(model(), SIGNAL(rowsRemoved(QModelIndex, int, int)), this,
         SLOT(forgetRemovedRows(QModelIndex, int, int)));
     connect(
@@ -127,6 +142,29 @@ void ItemListWidget::changeEvent(QEvent *event)
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         forgetAllSizes();
     QListWidget::changeEvent(event);
+}
+
+void ItemListWidget::dropEvent(QDropEvent *event)
+{
+    if (event->source() != this)
+        return;
+    const QModelIndex index = indexAt(event->pos());
+    const bool below = index.isValid() && event->pos().y() > visualRect(index).center().y();
+    // After any other action the view may take the rows away that it has dragged.
+    event->setDropAction(Qt::IgnoreAction);
+    event->accept();
+    setState(NoState);
+    emit rowsDropped(index.isValid() ? index.row() + below : count());
+}
+
+// Nobody else takes rows that are dragged, or they would be moved out of the list.
+QStringList ItemListWidget::mimeTypes() const { return {QStringLiteral("application/x-sorrelplugin-rows")}; }
+
+QMimeData *ItemListWidget::mimeData(const QList<QListWidgetItem *>) const
+{
+    auto *rows = new QMimeData; // belongs to the drag
+    rows->setData(mimeTypes().first(), QByteArray());
+    return rows;
 }
 
 void ItemListWidget::paintEvent(QPaintEvent *event)

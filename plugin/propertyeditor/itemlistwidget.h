@@ -20,7 +20,14 @@ public:
     void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
     void reset() override;
 
+signals:
+    /// The user has dragged the selected rows before \a row; they are not moved yet.
+    void rowsDropped(int row);
+
 protected:
+    void dropEvent(QDropEvent *event) override;
+    QStringList mimeTypes() const override;
+    QMimeData *mimeData(const QList<QListWidgetItem *> items) const override;
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void timerEvent(QTimerEvent *event) override;

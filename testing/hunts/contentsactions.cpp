@@ -72,6 +72,7 @@ void Monkey::editContents(Random &random)
             DialogHand hand(random, m_choosers);
             hand.use(dialog, random.below(12));
             counts.choosers += hand.chooserCounts();
+            counts.keys += hand.keyCounts();
             if (!hand.finding().isEmpty())
                 finding(hand.finding());
             ok = !random.oneIn(4);

@@ -30,6 +30,8 @@ void DialogHand::once(QDialog *dialog)
         m_finding = usePane(pane, m_random, m_choosers, &m_chooserCounts);
     else if (m_random.oneIn(paneShown ? 12 : 2))
         press(dialog, "showPropertiesButton");
+    else if (m_random.oneIn(3))
+        pressKey(dialog, m_random, &m_keyCounts);
     else if (dialog->findChild<QTableWidget *>())
         useTable(dialog);
     else

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "choosers.h"
+#include "dialogkeys.h"
 
 class QDialog;
 
@@ -21,6 +22,8 @@ public:
     const QString &finding() const { return m_finding; }
     /// The choosers that came up meanwhile.
     const ChooserCounts &chooserCounts() const { return m_chooserCounts; }
+    /// The keys that were pressed in lists and grids.
+    const KeyCounts &keyCounts() const { return m_keyCounts; }
 
 private:
     void once(QDialog *dialog);
@@ -32,4 +35,5 @@ private:
     Choosers &m_choosers;
     QString m_finding;
     ChooserCounts m_chooserCounts{};
+    KeyCounts m_keyCounts{};
 };

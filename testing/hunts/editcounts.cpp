@@ -10,6 +10,8 @@ QVector<int> numbers(const EditCounts &counts)
     QVector<int> all{counts.opened, counts.changed, counts.cancelled};
     for (const int count : counts.choosers)
         all += count;
+    for (const int count : counts.keys)
+        all += count;
     return all;
 }
 
@@ -29,6 +31,7 @@ EditCounts &EditCounts::operator+=(const EditCounts &other)
     changed += other.changed;
     cancelled += other.cancelled;
     choosers += other.choosers;
+    keys += other.keys;
     return *this;
 }
 
@@ -44,14 +47,21 @@ QString EditTally::table() const
     QStringList head{QStringLiteral("opened"), QStringLiteral("changed"), QStringLiteral("cancelled")};
     for (const char *name : chooserNames)
         head += QLatin1String(name);
+    const int columns = head.size();
+    KeyCounts keys{};
     QString text = line(QStringLiteral("contents dialogs of"), head);
     for (std::size_t i = 0; i < m_counts.size(); ++i) {
         QStringList cells;
-        const QVector<int> counts = numbers(m_counts[i]);
+        const QVector<int> counts = numbers(m_counts[i]).mid(0, columns);
         for (const int count : counts)
             cells += QString::number(count);
         text += line(QLatin1String(contentsClasses[i]), cells);
+        keys += m_counts[i].keys;
     }
+    text += QLatin1String("  keys:");
+    for (std::size_t key = 0; key < keys.size(); ++key)
+        text += QStringLiteral(" %1 %2").arg(QLatin1String(keyNames[key])).arg(keys[key])
+            + QLatin1Char(key + 1 < keys.size() ? ',' : '\n');
     return text;
 }
 
@@ -69,6 +79,11 @@ QStringList EditTally::omissions() const
         if (sum.choosers[i] == 0)
             never += QLatin1String("the hunt never opened a ") + QLatin1String(chooserNames[i])
                 + QLatin1String(" chooser");
+    }
+    for (std::size_t i = 0; i < sum.keys.size(); ++i) {
+        if (sum.keys[i] == 0)
+            never += QLatin1String("the hunt never pressed the keys of '") + QLatin1String(keyNames[i])
+                + QLatin1Char('\'');
     }
     return never;
 }
@@ -95,6 +110,8 @@ EditTally EditTally::fromText(const QByteArray &text)
         for (int *count : {&counts.opened, &counts.changed, &counts.cancelled})
             *count = words.at(place++).toInt();
         for (int &count : counts.choosers)
+            count = words.at(place++).toInt();
+        for (int &count : counts.keys)
             count = words.at(place++).toInt();
     }
     return tally;

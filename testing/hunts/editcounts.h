@@ -3,6 +3,7 @@
 
 #include "choosers.h"
 #include "contents.h"
+#include "dialogkeys.h"
 
 #include <QtCore/QByteArray>
 
@@ -13,6 +14,7 @@ struct EditCounts {
     int changed = 0;
     int cancelled = 0;
     ChooserCounts choosers{};
+    KeyCounts keys{};
 
     EditCounts &operator+=(const EditCounts &other);
 };

@@ -151,6 +151,7 @@ void HostileHunter::edit(FormWindow *form, QWidget *control, Random &random)
             DialogHand hand(random, m_choosers);
             hand.use(dialog, random.below(6));
             counts.choosers += hand.chooserCounts();
+            counts.keys += hand.keyCounts();
             if (!hand.finding().isEmpty())
                 endWithFinding(hand.finding());
             const bool ok = !random.oneIn(6);

@@ -52,7 +52,7 @@ QString dump(QWidget *control)
 }
 
 /// Steps in the dialog: "u1" up, "d0" down, "-1" delete, "+1" add below, each after making that row current
-/// ("+" leaves it), and "1=Title" to rename.
+/// ("+" leaves it), "1=Title" to rename, and "z" and "y" for the keys that undo and redo.
 void play(QDialog *dialog, const QString &steps)
 {
     auto *list = dialog->findChild<QListWidget *>();
@@ -60,6 +60,14 @@ void play(QDialog *dialog, const QString &steps)
         const int equals = step.indexOf(QLatin1Char('='));
         if (equals >= 0) {
             list->item(step.left(equals).toInt())->setText(step.mid(equals + 1));
+            continue;
+        }
+        if (step == QLatin1String("z") || step == QLatin1String("y")) {
+            QTRY_VERIFY(dialog->isActiveWindow());
+            list->setFocus();
+            const bool redo = step == QLatin1String("y");
+            QTest::keyClick(list, Qt::Key_Z,
+                redo ? Qt::ControlModifier | Qt::ShiftModifier : Qt::KeyboardModifiers(Qt::ControlModifier));
             continue;
         }
         if (step.size() > 1)
@@ -150,6 +158,14 @@ private slots:
         row("- B -", "-0", "p1:B[b1], p2:[b2]");
         row("- B -", "u2", "p0:[b0], p2:[b2], p1:B[b1]");
         row("", "+ +", "page:New Item[], page_2:New Item[]");
+        row("A B C", "-0 -0 z", "p1:B[b1], p2:C[b2]");
+        row("A B C", "-1 z y", "p0:A[b0], p2:C[b2]");
+        row("A B C", "-2 +1 z z -0", "p1:B[b1], p2:C[b2]");
+        row("A B C", "-2 +1 z z u2", "p0:A[b0], p2:C[b2], p1:B[b1]");
+        row("A B C", "u2 u1 z", "p0:A[b0], p2:C[b2], p1:B[b1]");
+        row("A B C", "1=X -1 z 0=Y", "p0:Y[b0], p1:X[b1], p2:C[b2]");
+        row("A B", "+1 -0 z y z z -1 y", "p0:A[b0]");
+        row("- B C", "-0 z d1", "p0:[b0], p2:C[b2], p1:B[b1]");
     }
     void boxesAreEditedUndoneAndSaved()
     {
@@ -182,6 +198,8 @@ private slots:
                 play(dialog, QStringLiteral("+ +"));
                 dialog->reject();
             }));
+            QVERIFY(edit(QStringLiteral("+ + z z")));
+            QVERIFY(edit(QStringLiteral("- - z z -0 + z u1 z z z")));
             QCOMPARE(history()->count(), 0);
             QVERIFY(!m_form->isDirty());
         }

@@ -6,6 +6,8 @@
 
 #include <private/qdesigner_utils_p.h>
 
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QListWidget>
@@ -329,6 +331,33 @@ private slots:
         QVERIFY(shown);
         QVERIFY(!form);
         QVERIFY(!QApplication::activeModalWidget());
+    }
+
+    void pastedLinesAreOneStep_data() { addRows(kinds); }
+    void pastedLinesAreOneStep()
+    {
+        const Kind &kind = currentRow(kinds);
+        const QStringList texts = numbered(10000);
+        FormWindow *form = newForm();
+        QWidget *control = drop(form, kind, words("a b"));
+        form->commandHistory()->setClean();
+        const State before(form, control, dump);
+        QVERIFY(edit(form, control, kind, [&](QDialog *dialog) {
+            auto *list = dialog->findChild<QListWidget *>();
+            QTRY_VERIFY(dialog->isActiveWindow());
+            list->setFocus();
+            QGuiApplication::clipboard()->setText(texts.join(QLatin1String("\r\n")));
+            QTest::keyClick(list, Qt::Key_V, Qt::ControlModifier);
+            QCOMPARE(list->count(), 10002);
+            QTest::keyClick(list, Qt::Key_Z, Qt::ControlModifier);
+            QCOMPARE(list->count(), 2);
+            QTest::keyClick(list, Qt::Key_V, Qt::ControlModifier);
+            press(dialog, QDialogButtonBox::Ok);
+        }));
+        QCOMPARE(strings(control, kind.fields.first()), words("a") + texts + words("b"));
+        QCOMPARE(form->commandHistory()->count(), before.index + 1);
+        form->commandHistory()->undo();
+        compareStates(State(form, control, dump), before);
     }
 
     void hundredThousandItems_data() { addRows(kinds); }
