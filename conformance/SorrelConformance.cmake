@@ -140,7 +140,7 @@ endfunction()
 function(_sorrel_try_check folder ok_variable output_variable)
     # Debug information is where the linker knows the row from; full speed would only inline calls away.
     set(CMAKE_TRY_COMPILE_CONFIGURATION Debug)
-    try_compile(compiled SOURCES "${folder}/check.cpp"
+    try_compile(compiled "${folder}/build" SOURCES "${folder}/check.cpp"
         COMPILE_DEFINITIONS -g -fPIC
         LINK_LIBRARIES Sorrel::Sorrel Qt5::Widgets
         OUTPUT_VARIABLE output

@@ -15,7 +15,7 @@ if(TARGET Sorrel)
 else()
     # A library that no package has is left to its user to install.
     get_target_property(library_folder Sorrel::Sorrel LOCATION)
-    cmake_path(GET library_folder PARENT_PATH library_folder)
+    get_filename_component(library_folder ${library_folder} DIRECTORY)
 endif()
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${library_folder}")
 

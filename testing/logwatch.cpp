@@ -57,7 +57,7 @@ LogWatch::~LogWatch()
 
 void LogWatch::allow(const QString &pattern)
 {
-    state->allowed += QRegularExpression(QRegularExpression::anchoredPattern(pattern));
+    state->allowed += QRegularExpression(QStringLiteral("\\A(?:%1)\\z").arg(pattern));
 }
 
 QStringList LogWatch::takeUnexpected() { return std::exchange(state->unexpected, {}); }

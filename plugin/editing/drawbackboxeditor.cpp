@@ -98,7 +98,7 @@ void DrawbackBoxEditor::swapIds(int row, int otherRow)
 {
     const auto isRow = [this](int number) { return number >= 0 && number < m_currentIds.size(); };
     if (isRow(row) && isRow(otherRow))
-        m_currentIds.swapItemsAt(row, otherRow);
+        std::swap(m_currentIds[row], m_currentIds[otherRow]);
 }
 
 void DrawbackBoxEditor::itemMoveUp(int row) { swapIds(row, row - 1); }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "designerpropertymanager.h"
 #include "propertyrows.h"
+#include "qtversions.h"
 
 #include <private/formwindowbase_p.h>
 #include <private/qdesigner_utils_p.h>
@@ -85,9 +86,9 @@ DesignerPixmapCache *DesignerPropertyManager::pixmapCache() const
     return m_form ? m_form->pixmapCache() : nullptr;
 }
 
-bool DesignerPropertyManager::useIdBasedTranslations() const
+bool DesignerPropertyManager::usesTranslationIds() const
 {
-    return m_form && m_form->useIdBasedTranslations();
+    return qdesigner_internal::usesTranslationIds(m_form);
 }
 
 void DesignerPropertyManager::reloadIcons()

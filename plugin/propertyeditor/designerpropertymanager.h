@@ -44,7 +44,7 @@ public:
     QDesignerFormEditorInterface *core() const;
     DesignerIconCache *iconCache() const;
     DesignerPixmapCache *pixmapCache() const;
-    bool useIdBasedTranslations() const;
+    bool usesTranslationIds() const;
 
     /// Has the previews of all rows painted again.
     void reloadIcons();

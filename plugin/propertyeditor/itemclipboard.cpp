@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "itemclipboard.h"
+#include "qtversions.h"
 
 #include <private/qdesigner_utils_p.h>
 
@@ -21,7 +22,7 @@ QString format() { return QStringLiteral("application/x-sorrelplugin-items"); }
 void write(QDataStream &stream, const PropertySheetStringValue &text)
 {
     stream << quint8(TextValue) << text.value() << text.translatable() << text.disambiguation()
-           << text.comment() << text.id();
+           << text.comment() << translationId(text);
 }
 
 void write(QDataStream &stream, const PropertySheetIconValue &icon)
@@ -38,7 +39,7 @@ QVariant readText(QDataStream &stream)
     bool translatable = true;
     stream >> value >> translatable >> disambiguation >> comment >> id;
     PropertySheetStringValue text(value, translatable, disambiguation, comment);
-    text.setId(id);
+    setTranslationId(&text, id);
     return QVariant::fromValue(text);
 }
 

@@ -304,7 +304,7 @@ void ItemListEditor::setItemData(int role, const QVariant &value)
     QModelIndexList items{current};
     for (const int row : selectedRows(m_ui->listWidget)) {
         if (row != current.row())
-            items.append(current.siblingAtRow(row));
+            items.append(current.sibling(row, 0));
     }
     editItems(items, role, value);
 }

@@ -195,7 +195,7 @@ bool ItemListWidget::measureVisibleRows()
     bool changed = false;
     const int bottom = viewport()->height();
     QModelIndex index = indexAt({viewport()->width() / 2, 0});
-    for (; index.isValid() && visualRect(index).top() < bottom; index = index.siblingAtRow(index.row() + 1))
+    for (; index.isValid() && visualRect(index).top() < bottom; index = index.sibling(index.row() + 1, 0))
         changed |= m_sizes->measure(viewOptions(), index);
     return changed;
 }

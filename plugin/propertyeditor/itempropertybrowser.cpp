@@ -2,6 +2,7 @@
 #include "itempropertybrowser.h"
 #include "propertydelegate.h"
 #include "propertytreemodel.h"
+#include "qtversions.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QKeyEvent>
@@ -43,14 +44,14 @@ bool ItemPropertyBrowser::isEmpty() const { return m_model->rowCount() == 0; }
 int ItemPropertyBrowser::nameColumnWidth() const
 {
     // The context in which Designer's own catalogues have it.
-    return fontMetrics().horizontalAdvance(
-        QCoreApplication::translate("ItemPropertyBrowser", "XX Icon Selected off"));
+    return textWidth(
+        fontMetrics(), QCoreApplication::translate("ItemPropertyBrowser", "XX Icon Selected off"));
 }
 
 QSize ItemPropertyBrowser::sizeHint() const
 {
     const QString typicalValue = QStringLiteral("/this/is/some/random/path");
-    return {nameColumnWidth() + fontMetrics().horizontalAdvance(typicalValue), 1};
+    return {nameColumnWidth() + textWidth(fontMetrics(), typicalValue), 1};
 }
 
 void ItemPropertyBrowser::drawRow(
@@ -77,7 +78,8 @@ void ItemPropertyBrowser::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Enter:
     case Qt::Key_Space:
         if (state() != EditingState && currentIndex().isValid()) {
-            const QModelIndex value = currentIndex().siblingAtColumn(PropertyTreeModel::ValueColumn);
+            const QModelIndex value
+                = currentIndex().sibling(currentIndex().row(), PropertyTreeModel::ValueColumn);
             setCurrentIndex(value);
             openEditor(value);
         }

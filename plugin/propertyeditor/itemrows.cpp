@@ -134,7 +134,7 @@ QVector<int> inverted(const QVector<int> &order)
 QVector<int> orderWithStep(int count, const QVector<int> &rows, int step)
 {
     QVector<int> order = unchangedOrder(count);
-    const auto swap = [&](int row) { order.swapItemsAt(row, row + step); };
+    const auto swap = [&](int row) { std::swap(order[row], order[row + step]); };
     if (step < 0)
         std::for_each(rows.cbegin(), rows.cend(), swap);
     else

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "itemvalues.h"
 #include "cachedicons.h"
+#include "qtversions.h"
 
 #include <private/qdesigner_utils_p.h>
 #include <private/shared_enums_p.h>
@@ -27,8 +28,8 @@ PropertySheetStringValue withSameChange(PropertySheetStringValue text, const Pro
         text.setDisambiguation(after.disambiguation());
     if (before.comment() != after.comment())
         text.setComment(after.comment());
-    if (before.id() != after.id())
-        text.setId(after.id());
+    if (translationId(before) != translationId(after))
+        setTranslationId(&text, translationId(after));
     return text;
 }
 

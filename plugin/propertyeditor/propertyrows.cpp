@@ -2,6 +2,7 @@
 #include "propertyrows.h"
 #include "cachedicons.h"
 #include "designerpropertymanager.h"
+#include "qtversions.h"
 #include "sizepolicynames.h"
 
 #include <private/textpropertyeditor_p.h>
@@ -146,8 +147,8 @@ QString PixmapRow::valueToolTip() const { return nativePath(m_value); }
 // One thing that translators are told: how it is called, read and written.
 struct StringRow::Part {
     const char *name;
-    QString (PropertySheetTranslatableData::*get)() const;
-    void (PropertySheetTranslatableData::*set)(const QString &);
+    QString (*get)(const PropertySheetTranslatableData &text);
+    void (*set)(PropertySheetTranslatableData *text, const QString &part);
 };
 
 const StringRow::Part &StringRow::partAt(int index) const
@@ -155,11 +156,13 @@ const StringRow::Part &StringRow::partAt(int index) const
     using Data = PropertySheetTranslatableData;
     static const Part disambiguation
         = {QT_TRANSLATE_NOOP("qdesigner_internal::DesignerPropertyManager", "disambiguation"),
-            &Data::disambiguation, &Data::setDisambiguation};
+            [](const Data &text) { return text.disambiguation(); },
+            [](Data *text, const QString &part) { text->setDisambiguation(part); }};
     static const Part comment = {QT_TRANSLATE_NOOP("qdesigner_internal::DesignerPropertyManager", "comment"),
-        &Data::comment, &Data::setComment};
-    static const Part id
-        = {QT_TRANSLATE_NOOP("qdesigner_internal::DesignerPropertyManager", "id"), &Data::id, &Data::setId};
+        [](const Data &text) { return text.comment(); },
+        [](Data *text, const QString &part) { text->setComment(part); }};
+    static const Part id = {QT_TRANSLATE_NOOP("qdesigner_internal::DesignerPropertyManager", "id"),
+        translationId, setTranslationId};
     if (index == 1)
         return m_idBased ? comment : disambiguation;
     return m_idBased ? id : comment;
@@ -167,7 +170,7 @@ const StringRow::Part &StringRow::partAt(int index) const
 
 StringRow::StringRow(DesignerPropertyManager *manager, const QString &name)
     : TypedPropertyRow(manager, String, name, nullptr)
-    , m_idBased(manager->useIdBasedTranslations())
+    , m_idBased(manager->usesTranslationIds())
 {
     addChild<FlagRow>(DesignerPropertyManager::tr("translatable"));
     for (int i : {1, 2})
@@ -182,7 +185,7 @@ QString StringRow::valueText() const
 
 QVariant StringRow::part(int index) const
 {
-    return index == 0 ? QVariant(m_value.translatable()) : QVariant((m_value.*partAt(index).get)());
+    return index == 0 ? QVariant(m_value.translatable()) : QVariant(partAt(index).get(m_value));
 }
 
 QVariant StringRow::withPart(int index, const QVariant &part) const
@@ -191,7 +194,7 @@ QVariant StringRow::withPart(int index, const QVariant &part) const
     if (index == 0)
         changed.setTranslatable(part.toBool());
     else
-        (changed.*partAt(index).set)(part.toString());
+        partAt(index).set(&changed, part.toString());
     return QVariant::fromValue(changed);
 }
 

@@ -76,7 +76,9 @@ const Binding *bindingOf(const QWidget *widget)
     return nullptr;
 }
 
-DomProperty *find(const QList<DomProperty *> &properties, const char *name)
+// The form editor's lists are of another type in each of its versions.
+template <class DomProperties>
+DomProperty *find(const DomProperties &properties, const char *name)
 {
     const auto named = [name](const DomProperty *property) {
         return property && property->attributeName() == QLatin1String(name);
@@ -98,7 +100,7 @@ void insertProperty(DomWidget *node, const QWidget *widget, DomProperty *propert
 {
     const QMetaObject *meta = widget->metaObject();
     const int position = meta->indexOfProperty(property->attributeName().toLatin1());
-    QList<DomProperty *> properties = node->elementProperty();
+    auto properties = node->elementProperty();
     const auto comesLater = [meta, position](const DomProperty *other) {
         const int index = meta->indexOfProperty(other->attributeName().toLatin1());
         return index < 0 || index > position;
@@ -198,7 +200,8 @@ std::optional<QString> textOf(const DomProperty *property)
 }
 
 /// The values of a field, with empty ones in the place of those that an item before the last one lacks.
-QStringList listFromItems(const QVector<DomItem *> &items, const Field &field)
+template <class DomItems>
+QStringList listFromItems(const DomItems &items, const Field &field)
 {
     QStringList list;
     for (int i = 0; i < items.size(); ++i) {

@@ -23,7 +23,7 @@ void FormProxy::setFormName(const QString &name)
 
 QSize FormProxy::sizeHint() const
 {
-    return {qMin(fontMetrics().horizontalAdvance(m_formName) + 40, 400), 60};
+    return {qMin(fontMetrics().size(Qt::TextSingleLine, m_formName).width() + 40, 400), 60};
 }
 
 QSize FormProxy::minimumSizeHint() const { return {40, fontMetrics().height() + 8}; }

@@ -89,8 +89,8 @@ std::unique_ptr<DomItem> itemOf(const QByteArray &xml)
 QByteArray remainder(const DomItem &item, const QVector<Value> &values)
 {
     const std::unique_ptr<DomItem> copy = itemOf(xmlOf(item));
-    QList<DomProperty *> kept;
     const auto properties = copy->elementProperty();
+    auto kept = decltype(copy->elementProperty())();
     for (DomProperty *property : properties) {
         if (isInList(property, values))
             delete property; // the item forgets it below

@@ -2,7 +2,6 @@
 #include "listkeys.h"
 #include "quiettest.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QMap>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
@@ -23,7 +22,7 @@ private slots:
             QTest::addRow("%u", seed) << seed;
     }
     void everythingIsUndone();
-    void manyRowsTakeNoQuadraticTime();
+    void manyRowsComeThrough();
 };
 
 void TestItemListHistory::everythingIsUndone()
@@ -104,44 +103,30 @@ void TestItemListHistory::everythingIsUndone()
     goTo(end);
 }
 
-/// A hundred thousand rows, of which every tenth goes. Ten times the rows may take some thirty times as long
-/// here, not a hundred times.
-void TestItemListHistory::manyRowsTakeNoQuadraticTime()
+/// A hundred thousand rows, of which every tenth is selected: what looks at all rows for each of them does
+/// not come to an end before ctest's patience does.
+void TestItemListHistory::manyRowsComeThrough()
 {
-    const auto measure = [](int count) {
-        Editor editor(numbered(count));
-        QVector<qint64> times;
-        const auto time = [&times](const std::function<void()> &action) {
-            QElapsedTimer timer;
-            timer.start();
-            action();
-            QCoreApplication::processEvents();
-            times += timer.nsecsElapsed();
-        };
-        {
-            QItemSelection every;
-            for (int row = 0; row < count; row += 10)
-                every.append(QItemSelectionRange(editor.list->model()->index(row, 0)));
-            editor.list->selectionModel()->select(every, QItemSelectionModel::ClearAndSelect);
-        }
-        time([&] { editor.press(Qt::Key_Delete); });
-        Q_ASSERT(editor.list->count() == count - count / 10);
-        time([&] { editor.press(Qt::Key_Z, ctrl); });
-        Q_ASSERT(editor.list->count() == count);
-        time([&] { editor.press(Qt::Key_Down, ctrl); });
-        time([&] { editor.press(Qt::Key_D, ctrl); });
-        time([&] { editor.press(Qt::Key_C, ctrl); });
-        time([&] { editor.press(Qt::Key_V, ctrl); });
-        time([&] { editor.trigger("Sort by Text"); });
-        return times;
-    };
-    const QVector<qint64> few = measure(10000);
-    const QVector<qint64> many = measure(100000);
-    for (int i = 0; i < few.size(); ++i) {
-        const QString figures
-            = QStringLiteral("%1: %2 ms, %3 ms").arg(i).arg(few.at(i) / 1000000).arg(many.at(i) / 1000000);
-        QVERIFY2(many.at(i) < 30 * few.at(i) + 50000000, qPrintable(figures));
-    }
+    constexpr int count = 100000;
+    Editor editor(numbered(count));
+    QItemSelection every;
+    for (int row = 0; row < count; row += 10)
+        every.append(QItemSelectionRange(editor.list->model()->index(row, 0)));
+    editor.list->selectionModel()->select(every, QItemSelectionModel::ClearAndSelect);
+    editor.press(Qt::Key_Delete);
+    QCOMPARE(editor.list->count(), count - count / 10);
+    editor.press(Qt::Key_Z, ctrl);
+    QCOMPARE(editor.list->count(), count);
+    editor.press(Qt::Key_Down, ctrl);
+    QCOMPARE(editor.list->item(1)->text(), QStringLiteral("0"));
+    editor.press(Qt::Key_D, ctrl);
+    editor.press(Qt::Key_C, ctrl);
+    editor.press(Qt::Key_V, ctrl);
+    QCOMPARE(editor.list->count(), count + 2 * (count / 10));
+    editor.trigger("Sort by Text");
+    QCOMPARE(editor.list->item(2)->text(), QStringLiteral("0"));
+    QCOMPARE(editor.list->item(3)->text(), QStringLiteral("1"));
+    QCoreApplication::processEvents();
 }
 
 QTEST_MAIN(TestItemListHistory)
