@@ -109,10 +109,12 @@ void TestItemListHistory::manyRowsComeThrough()
 {
     constexpr int count = 100000;
     Editor editor(numbered(count));
-    QItemSelection every;
-    for (int row = 0; row < count; row += 10)
-        every.append(QItemSelectionRange(editor.list->model()->index(row, 0)));
-    editor.list->selectionModel()->select(every, QItemSelectionModel::ClearAndSelect);
+    {
+        QItemSelection every; // goes again, as its ranges slow the model down
+        for (int row = 0; row < count; row += 10)
+            every.append(QItemSelectionRange(editor.list->model()->index(row, 0)));
+        editor.list->selectionModel()->select(every, QItemSelectionModel::ClearAndSelect);
+    }
     editor.press(Qt::Key_Delete);
     QCOMPARE(editor.list->count(), count - count / 10);
     editor.press(Qt::Key_Z, ctrl);
