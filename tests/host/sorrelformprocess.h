@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <QtCore/QDir>
 #include <QtCore/QProcess>
 
 #include <csignal>
@@ -47,4 +48,14 @@ inline Result run(const QStringList &arguments, const QString &folder = QString(
     result.output = process.readAllStandardOutput();
     result.errors = process.readAllStandardError();
     return result;
+}
+
+inline QStringList exampleForms()
+{
+    const QDir folder(QStringLiteral(EXAMPLES "/forms"));
+    QStringList forms;
+    const QStringList names = folder.entryList({QStringLiteral("*.ui")});
+    for (const QString &name : names)
+        forms += folder.filePath(name);
+    return forms;
 }

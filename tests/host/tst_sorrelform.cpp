@@ -11,6 +11,7 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 
 #include <sys/stat.h>
@@ -43,6 +44,27 @@ private slots:
         page.remove(0, page.indexOf("```text\n") + 8);
         page.truncate(page.indexOf("```"));
         QCOMPARE(result.output.replace(QFile::encodeName(folder), "..."), page);
+    }
+
+    /// The manual page and the completion know what the program knows, no more and no less.
+    void optionsAreDocumented()
+    {
+        static const QRegularExpression option(QStringLiteral("--[a-z-]+"));
+        const auto optionsIn = [](const QString &text) {
+            QStringList options;
+            for (auto it = option.globalMatch(text); it.hasNext();)
+                options += it.next().captured();
+            options.removeDuplicates();
+            options.sort();
+            return options.join(QLatin1Char(' '));
+        };
+        const QString program
+            = optionsIn(QString::fromUtf8(run(words("--help")).output)).remove(QStringLiteral("--help-all "));
+        QVERIFY(program.contains(QLatin1String("--json")));
+        const QString source = QStringLiteral(EXAMPLES "/../sorrelform/sorrel-form");
+        QCOMPARE(
+            optionsIn(QString::fromUtf8(read(source + QStringLiteral(".1")).replace("\\-", "-"))), program);
+        QCOMPARE(optionsIn(QString::fromUtf8(read(source + QStringLiteral(".bash")))), program);
     }
 
     /// What Designer said of a form that it could not open is not told of the next one.
@@ -358,15 +380,6 @@ private:
     static void add(const char *name, const QByteArray &text, const char *kinds)
     {
         QTest::newRow(name) << text << words(kinds);
-    }
-    static QStringList exampleForms()
-    {
-        const QDir folder(QStringLiteral(EXAMPLES "/forms"));
-        QStringList forms;
-        const QStringList names = folder.entryList({QStringLiteral("*.ui")});
-        for (const QString &name : names)
-            forms += folder.filePath(name);
-        return forms;
     }
     QString write(const QByteArray &text)
     {
