@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "buttongrid.h"
 
+#include "fieldfocus.h"
 #include "icons.h"
 
 #include <QtCore/QCoreApplication>
@@ -45,6 +46,8 @@ ButtonGrid::ButtonGrid(Maker makeButton, unsigned int maximumSide, QWidget *pare
 {
     m_panel->installEventFilter(this);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    // Without buttons no stop for Tab, with them they are.
+    setFocusPolicy(Qt::ClickFocus);
 }
 
 void ButtonGrid::setContents(const Contents &contents)
@@ -87,7 +90,7 @@ void ButtonGrid::updateChecks()
 {
     if (!m_checkedIndex)
         return;
-    const QAbstractButton *chosen = button(*m_checkedIndex);
+    QAbstractButton *chosen = button(*m_checkedIndex);
     for (QAbstractButton *button : qAsConst(m_buttons)) {
         if (button->isChecked() == (button == chosen))
             continue;
@@ -97,6 +100,8 @@ void ButtonGrid::updateChecks()
         button->setChecked(button == chosen);
         button->setAutoExclusive(exclusive);
     }
+    if (chosen)
+        setFocusProxy(chosen);
 }
 
 void ButtonGrid::refresh()
@@ -168,6 +173,8 @@ void ButtonGrid::updateButtons()
             schedule();
         });
     }
+    if (!focusProxy() && !m_buttons.isEmpty())
+        setFocusProxy(m_buttons.first());
     updateChecks();
     measure();
 }
@@ -181,11 +188,18 @@ void ButtonGrid::makeButtons(int count)
     while (m_buttons.size() > count)
         delete m_buttons.takeLast();
     m_buttons.reserve(count);
+    if (m_buttons.isEmpty())
+        setFocusProxy(nullptr);
     while (m_buttons.size() < count) {
         QAbstractButton *button = m_makeButton(m_panel);
         connect(button, &QAbstractButton::clicked, this, [this, i = m_buttons.size()] {
+            // The focus comes back to the button that is checked.
+            if (m_buttons.at(i)->autoExclusive())
+                setFocusProxy(m_buttons.at(i));
             emit clicked(int(i / m_columns * m_contents.columns) + i % m_columns);
         });
+        // Buttons come when all else stands on the form, but are reached with what was made before them.
+        setNextInTabOrder(m_buttons.isEmpty() ? static_cast<QWidget *>(this) : m_buttons.last(), button);
         m_buttons.append(button);
         if (m_panel->isVisible())
             button->show();

@@ -59,7 +59,6 @@ Color::Color(QWidget *parent)
 {
     addField(m_button);
     fields()->addStretch(1);
-    setFocusProxy(m_button);
     connect(m_button, &ColorButton::colorChanged, this, &Color::colorChanged);
 }
 
@@ -76,7 +75,6 @@ ColorTransfer::ColorTransfer(QWidget *parent)
     addField(m_to);
     fields()->addStretch(1);
     m_to->setColor(Qt::white);
-    setFocusProxy(m_from);
     connect(m_from, &ColorButton::colorChanged, this, &ColorTransfer::fromChanged);
     connect(m_to, &ColorButton::colorChanged, this, &ColorTransfer::toChanged);
 }

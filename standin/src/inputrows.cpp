@@ -15,7 +15,6 @@ String::String(QWidget *parent)
     , m_edit(new QLineEdit(this))
 {
     addField(m_edit, 1);
-    setFocusProxy(m_edit);
     connect(m_edit, &QLineEdit::textChanged, this, &String::textChanged);
 }
 
@@ -31,7 +30,6 @@ CmdButton::CmdButton(QWidget *parent)
     , m_button(new QPushButton(tr("Run"), this))
 {
     addField(m_button, 1);
-    setFocusProxy(m_button);
     connect(m_button, &QPushButton::clicked, this, [this] {
         emit clicked();
         if (!m_command.isEmpty())

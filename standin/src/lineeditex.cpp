@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/SrLineEditEx.h>
 
+#include "fieldfocus.h"
 #include "itemlistmodel.h"
 
 #include <QtCore/QTimer>
@@ -88,7 +89,7 @@ CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_comboBox);
-    setFocusProxy(m_comboBox);
+    shareFocus(this);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     connect(m_model, &ItemListModel::dataChanged, this, [this] {

@@ -3,6 +3,7 @@
 #include <nui/Sorrel/SrMatrixPopButtons.h>
 
 #include "buttongrid.h"
+#include "fieldfocus.h"
 
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QCheckBox>
@@ -37,6 +38,7 @@ ButtonGrid *makeGrid(ButtonGrid::Maker makeButton, QWidget *parent)
     auto *layout = new QVBoxLayout(parent);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(grid);
+    shareFocus(parent);
     parent->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return grid;
 }

@@ -3,6 +3,7 @@
 #include <nui/Sorrel/Template/SrPoint.h>
 #include <nui/Sorrel/Template/SrWindow.h>
 
+#include "fieldfocus.h"
 #include "glyphbutton.h"
 #include "numbers.h"
 
@@ -50,6 +51,7 @@ void PickRow::addPickButton(const QString &prompt, Qt::Orientation orientation)
         // Beside a tall field the caption stands at the top.
         layout()->itemAt(0)->setAlignment(Qt::AlignTop);
     }
+    shareFocus(this);
     setPrompt(prompt);
 }
 
@@ -65,6 +67,7 @@ void PickRow::addButton(QToolButton *button)
 {
     const bool column = m_buttons->direction() == QBoxLayout::TopToBottom;
     m_buttons->insertWidget(column ? m_buttons->count() - 1 : m_buttons->count(), button);
+    shareFocus(this);
 }
 
 QString PickRow::prompt() const { return m_pick->toolTip(); }
@@ -100,7 +103,6 @@ Point::Point(QWidget *parent)
     m_axes[1]->setPrefix(QStringLiteral("Y "));
     m_axes[2]->setPrefix(QStringLiteral("Z "));
     addPickButton(tr("Pick a point"));
-    setFocusProxy(m_axes[0]);
 }
 
 int Point::decimals() const { return m_axes[0]->decimals(); }
@@ -130,7 +132,6 @@ Window::Window(QWidget *parent)
     m_first = addCorner(grid, tr("From"));
     m_second = addCorner(grid, tr("To"));
     addPickButton(tr("Pick two corners"));
-    setFocusProxy(m_first.x);
 }
 
 Window::Corner Window::addCorner(QGridLayout *grid, const QString &caption)

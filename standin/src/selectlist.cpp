@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/SrSelectList.h>
 
+#include "fieldfocus.h"
+
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QToolButton>
@@ -44,6 +46,7 @@ SelectList::SelectList(QWidget *parent)
     m_remove = addButton(middle, Qt::LeftArrow, tr("Remove"));
     m_up = addButton(right, Qt::UpArrow, tr("Move up"));
     m_down = addButton(right, Qt::DownArrow, tr("Move down"));
+    shareFocus(this);
 
     connect(m_add, &QToolButton::clicked, this, [this] { move(m_available, m_selected); });
     connect(m_remove, &QToolButton::clicked, this, [this] { move(m_selected, m_available); });

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "strokebox.h"
 
+#include "fieldfocus.h"
+
 #include <QtGui/QPainter>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QStylePainter>
@@ -54,7 +56,7 @@ StrokeBox::StrokeBox(QWidget *owner)
     auto *layout = new QVBoxLayout(owner);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(this);
-    owner->setFocusProxy(this);
+    shareFocus(owner);
     owner->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 

@@ -4,6 +4,10 @@
 
 #include <sorrel/SrDrawbackBoxGroup.h>
 
+#include <private/qdesigner_utils_p.h>
+
+#include <QtDesigner/QDesignerPropertySheetExtension>
+
 #include <QtCore/QDir>
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QAbstractButton>
@@ -47,6 +51,26 @@ private slots:
         buttons->setProperty("iconList", words("up.png"));
         QVERIFY(QMetaObject::invokeMethod(buttons, "updateGeomtries"));
         QVERIFY(!buttons->findChild<QAbstractButton *>()->icon().isNull());
+    }
+
+    /// The form editor's tab order and buddy modes go by the focus policy.
+    void fieldsAreStopsInTheTabOrder()
+    {
+        m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged .*"));
+        const QStringList withoutFields = words("DrawbackBoxGroup Form FormProxy Line");
+        for (const QString &control : m_host->controls()) {
+            FormWindow *form = newForm();
+            QWidget *dropped = m_host->drop(form, control, {60, 60});
+            const QDesignerPropertySheetExtension *sheet = m_host->propertySheet(dropped);
+            const int index = sheet->indexOf(QStringLiteral("focusPolicy"));
+            bool isEnum = false;
+            const int policy = qdesigner_internal::Utils::valueOf(sheet->property(index), &isEnum);
+            QVERIFY(isEnum);
+            const bool stop = !withoutFields.contains(control.section(QLatin1Char(':'), 2));
+            QVERIFY2(bool(policy & Qt::TabFocus) == stop, qPrintable(control));
+            QVERIFY2(!DesignerHost::save(form).contains(QLatin1String("focusPolicy")), qPrintable(control));
+            close(form);
+        }
     }
 
     void titleEditedInItsBarIsOneUndoStep()
