@@ -3,11 +3,13 @@
 
 #include "fieldfocus.h"
 #include "icons.h"
+#include "surroundings.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtCore/QHash>
 #include <QtCore/QTimer>
+#include <QtGui/QPainter>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLayout>
 
@@ -25,6 +27,8 @@ constexpr QSize padding(6, 0);
 constexpr QSize largestHint(800, 600);
 constexpr QSize largestMinimum(240, 160);
 constexpr QSize smallestCell(16, 16);
+// Where buttons are to come there is room for one with a word on it.
+constexpr int emptyWidthInCharacters = 14;
 // Beyond this number of buttons the ones measured stand for all.
 constexpr int measuredButtons = 256;
 // Changing more buttons than this while they are on the screen takes longer than taking them off and on
@@ -219,6 +223,8 @@ QSize ButtonGrid::sizeHint() const
 {
     // As with a widget's polishing, the work put off is done when its outcome is asked for.
     const_cast<ButtonGrid *>(this)->updateButtons();
+    if (m_buttons.isEmpty())
+        return {fontMetrics().averageCharWidth() * emptyWidthInCharacters, fontMetrics().height() + 8};
     const QSize all(
         m_columns * (m_cell.width() + spacing) - spacing, m_rows * (m_cell.height() + spacing) - spacing);
     return all.expandedTo(smallestCell).boundedTo(largestHint);
@@ -270,6 +276,17 @@ bool ButtonGrid::eventFilter(QObject *watched, QEvent *event)
         }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+/// Says where buttons are to come, to whoever edits the form.
+void ButtonGrid::paintEvent(QPaintEvent *)
+{
+    if (!m_buttons.isEmpty() || !isEdited(this))
+        return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+    const QString text = fontMetrics().elidedText(tr("No buttons yet"), Qt::ElideRight, width());
+    painter.drawText(rect(), Qt::AlignVCenter, text);
 }
 
 void ButtonGrid::changeEvent(QEvent *event)

@@ -21,9 +21,11 @@ void FormProxy::setFormName(const QString &name)
     emit formNameChanged(name);
 }
 
+QString FormProxy::shownName() const { return m_formName.isEmpty() ? tr("Form") : m_formName; }
+
 QSize FormProxy::sizeHint() const
 {
-    return {qMin(fontMetrics().horizontalAdvance(m_formName) + 40, 400), 60};
+    return {qBound(120, fontMetrics().horizontalAdvance(shownName()) + 40, 400), 60};
 }
 
 QSize FormProxy::minimumSizeHint() const { return {40, fontMetrics().height() + 8}; }
@@ -35,9 +37,8 @@ void FormProxy::paintEvent(QPaintEvent *)
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
     const QRect inside = rect().adjusted(8, 4, -8, -4);
-    const QString text = m_formName.isEmpty() ? tr("Form") : m_formName;
     painter.drawText(
-        inside, Qt::AlignCenter, fontMetrics().elidedText(text, Qt::ElideMiddle, inside.width()));
+        inside, Qt::AlignCenter, fontMetrics().elidedText(shownName(), Qt::ElideMiddle, inside.width()));
 }
 
 } // namespace Vexa

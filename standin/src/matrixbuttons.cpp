@@ -4,6 +4,7 @@
 
 #include "buttongrid.h"
 #include "fieldfocus.h"
+#include "surroundings.h"
 
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QCheckBox>
@@ -16,6 +17,8 @@ namespace Vexa {
 namespace {
 
 constexpr unsigned int maximumSide = 99;
+// Check boxes and radio buttons without a text are tiny, and so is a fresh matrix of them.
+constexpr QSize freeMatrix(96, 48);
 
 QAbstractButton *makePush(QWidget *parent) { return new QPushButton(parent); }
 QAbstractButton *makeRadio(QWidget *parent) { return new QRadioButton(parent); }
@@ -69,6 +72,12 @@ AbstractMatrixOptions::AbstractMatrixOptions(ButtonMaker makeButton, QWidget *pa
     , m_grid(makeGrid(makeButton, this))
 {
     relayClicks(m_grid, this);
+}
+
+QSize AbstractMatrixOptions::sizeHint() const
+{
+    const QSize hint = QWidget::sizeHint();
+    return standsFree(this) ? hint.expandedTo(freeMatrix) : hint;
 }
 
 using Contents = ButtonGrid::Contents;

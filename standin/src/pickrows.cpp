@@ -17,15 +17,28 @@ namespace Vexa {
 
 namespace {
 
+/// The hint of a plain box is wide enough for its limits, which coordinates hardly ever come near.
+class CoordinateBox : public QDoubleSpinBox {
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+
+    QSize sizeHint() const override
+    {
+        return {fontMetrics().averageCharWidth() * 12, QDoubleSpinBox::sizeHint().height()};
+    }
+    QSize minimumSizeHint() const override
+    {
+        return {fontMetrics().averageCharWidth() * 8, QDoubleSpinBox::minimumSizeHint().height()};
+    }
+};
+
 QDoubleSpinBox *newCoordinateBox(QWidget *parent)
 {
-    auto *box = new QDoubleSpinBox(parent);
+    auto *box = new CoordinateBox(parent);
     box->setDecimals(3);
     box->setRange(-numberLimit, numberLimit);
     box->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    // The hint of a box is wide enough for its limits, which coordinates hardly ever come near.
-    box->setMinimumWidth(box->fontMetrics().averageCharWidth() * 8);
-    box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return box;
 }
 

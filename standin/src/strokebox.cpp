@@ -60,7 +60,7 @@ StrokeBox::StrokeBox(QWidget *owner)
     owner->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-QSize StrokeBox::sizeHint() const { return QComboBox::sizeHint() + QSize(strokeLength + 3 * margin, 0); }
+QSize StrokeBox::sizeHint() const { return QComboBox::sizeHint() + QSize(strokeLength + 5 * margin, 0); }
 
 void StrokeBox::paintEvent(QPaintEvent *)
 {

@@ -6,9 +6,12 @@
 
 #include <private/qdesigner_utils_p.h>
 
+#include <QtDesigner/QDesignerFormEditorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QDesignerWidgetFactoryInterface>
 
 #include <QtCore/QDir>
+#include <QtCore/QSet>
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
@@ -70,6 +73,34 @@ private slots:
             QVERIFY2(bool(policy & Qt::TabFocus) == stop, qPrintable(control));
             QVERIFY2(!DesignerHost::save(form).contains(QLatin1String("focusPolicy")), qPrintable(control));
             close(form);
+        }
+    }
+
+    /// Whoever edits the form sees where buttons are to come, whoever uses it does not.
+    void emptyControlsSaySoInTheEditorOnly()
+    {
+        const auto colours = [](QWidget *control) {
+            QSet<QRgb> found;
+            QImage image;
+            for (QWidget *child : control->findChildren<QWidget *>()) {
+                if (child->inherits("Vexa::ButtonGrid"))
+                    image = child->grab().toImage();
+            }
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x)
+                    found.insert(image.pixel(x, y));
+            }
+            return found.size();
+        };
+        for (const char *kind : {"OptionButtons", "OptionRadios"}) {
+            FormWindow *form = newForm();
+            QWidget *control = drop(form, kind);
+            control->resize(control->sizeHint());
+            QVERIFY(colours(control) > 1);
+            const std::unique_ptr<QWidget> outside(
+                form->core()->widgetFactory()->createWidget(QLatin1String("Vexa::") + QLatin1String(kind)));
+            outside->resize(outside->sizeHint());
+            QCOMPARE(colours(outside.get()), 1);
         }
     }
 

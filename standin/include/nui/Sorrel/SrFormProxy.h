@@ -27,6 +27,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QString shownName() const;
+
     QString m_formName;
 };
 
