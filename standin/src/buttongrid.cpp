@@ -12,6 +12,7 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLayout>
+#include <QtWidgets/QStyle>
 
 #include <algorithm>
 #include <cstdlib>
@@ -250,7 +251,8 @@ void ButtonGrid::place()
         const int column = i % m_columns;
         const int left = column * fullWidth / m_columns;
         const int right = (column + 1) * fullWidth / m_columns - spacing;
-        m_buttons.at(i)->setGeometry(left, i / m_columns * rowHeight, std::max(right - left, 1), cellHeight);
+        const QRect cell(left, i / m_columns * rowHeight, std::max(right - left, 1), cellHeight);
+        m_buttons.at(i)->setGeometry(QStyle::visualRect(layoutDirection(), rect(), cell));
     }
     m_panel->show();
 }
@@ -284,7 +286,8 @@ void ButtonGrid::paintEvent(QPaintEvent *)
     if (!m_buttons.isEmpty() || !isEdited(this))
         return;
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+    painter.setLayoutDirection(layoutDirection());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
     const QString text = fontMetrics().elidedText(tr("No buttons yet"), Qt::ElideRight, width());
     painter.drawText(rect(), Qt::AlignVCenter, text);
 }
@@ -293,6 +296,10 @@ void ButtonGrid::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         schedule();
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        m_placedCells = QRect();
+        refresh();
+    }
     QWidget::changeEvent(event);
 }
 

@@ -327,7 +327,7 @@ void DrawbackBoxGroup::paintEvent(QPaintEvent *)
     if (!m_boxes.isEmpty())
         return;
     QPainter painter(this);
-    painter.setPen(QPen(palette().color(QPalette::Mid), 1, Qt::DashLine));
+    painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1, Qt::DashLine));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

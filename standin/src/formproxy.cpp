@@ -33,9 +33,11 @@ QSize FormProxy::minimumSizeHint() const { return {40, fontMetrics().height() + 
 void FormProxy::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setPen(QPen(palette().color(QPalette::Mid), 1, Qt::DashLine));
+    // Unlike the shades of the palette it can be seen on a dark window, too.
+    const QColor faint = palette().color(QPalette::PlaceholderText);
+    painter.setPen(QPen(faint, 1, Qt::DashLine));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+    painter.setPen(faint);
     const QRect inside = rect().adjusted(8, 4, -8, -4);
     painter.drawText(
         inside, Qt::AlignCenter, fontMetrics().elidedText(shownName(), Qt::ElideMiddle, inside.width()));

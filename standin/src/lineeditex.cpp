@@ -9,6 +9,7 @@
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
@@ -65,11 +66,19 @@ void LineEditBtn::resizeEvent(QResizeEvent *event)
     placeButton();
 }
 
+void LineEditBtn::changeEvent(QEvent *event)
+{
+    LineEditEx::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        placeButton();
+}
+
 void LineEditBtn::placeButton()
 {
     const int width = std::max(m_button->sizeHint().width(), height());
-    m_button->setGeometry(this->width() - width, 0, width, height());
-    setTextMargins(0, 0, width, 0);
+    const QRect place(this->width() - width, 0, width, height());
+    m_button->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+    setTextMargins(isRightToLeft() ? width : 0, 0, isRightToLeft() ? 0 : width, 0);
 }
 
 CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)

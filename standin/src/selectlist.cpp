@@ -3,6 +3,7 @@
 
 #include "fieldfocus.h"
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QToolButton>
@@ -56,6 +57,7 @@ SelectList::SelectList(QWidget *parent)
     connect(m_selected, &QListWidget::itemDoubleClicked, m_remove, &QToolButton::click);
     for (QListWidget *list : {m_available, m_selected})
         connect(list, &QListWidget::itemSelectionChanged, this, &SelectList::updateButtons);
+    pointButtons();
     updateButtons();
 }
 
@@ -120,6 +122,20 @@ void SelectList::shift(int rows)
     m_selected->insertItem(to, m_selected->takeItem(from));
     m_selected->setCurrentRow(to);
     emit selectedChanged(selected());
+}
+
+void SelectList::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        pointButtons();
+}
+
+/// The selected ones stand on the left where writing starts on the right.
+void SelectList::pointButtons()
+{
+    m_add->setArrowType(isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
+    m_remove->setArrowType(isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
 }
 
 void SelectList::updateButtons()

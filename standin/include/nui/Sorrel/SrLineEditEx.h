@@ -44,6 +44,7 @@ signals:
     void buttonClicked();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
