@@ -16,10 +16,12 @@ String::String(QWidget *parent)
 {
     addField(m_edit, 1);
     connect(m_edit, &QLineEdit::textChanged, this, &String::textChanged);
+    connect(m_edit, &QLineEdit::editingFinished, this, &String::editingFinished);
 }
 
 QString String::text() const { return m_edit->text(); }
 void String::setText(const QString &text) { m_edit->setText(text); }
+void String::clear() { m_edit->clear(); }
 QString String::placeholderText() const { return m_edit->placeholderText(); }
 void String::setPlaceholderText(const QString &text) { m_edit->setPlaceholderText(text); }
 bool String::isReadOnly() const { return m_edit->isReadOnly(); }
@@ -37,6 +39,7 @@ CmdButton::CmdButton(QWidget *parent)
     });
 }
 
+void CmdButton::click() { m_button->click(); }
 QString CmdButton::text() const { return m_button->text(); }
 void CmdButton::setText(const QString &text) { m_button->setText(text); }
 QIcon CmdButton::icon() const { return m_button->icon(); }

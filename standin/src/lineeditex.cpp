@@ -9,6 +9,7 @@
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 
@@ -98,6 +99,13 @@ CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_comboBox);
+    m_count = new QLabel(m_comboBox->lineEdit());
+    m_count->setForegroundRole(QPalette::PlaceholderText);
+    m_count->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto *inLine = new QHBoxLayout(m_comboBox->lineEdit());
+    inLine->setContentsMargins(2, 0, 2, 0);
+    inLine->addWidget(m_count, 0, Qt::AlignTrailing);
+    showCount();
     shareFocus(this);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
@@ -148,6 +156,13 @@ QStringList CheckableTextComboBox::checkedTexts() const
     return texts;
 }
 
+void CheckableTextComboBox::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange || event->type() == QEvent::FontChange)
+        showCount();
+}
+
 bool CheckableTextComboBox::eventFilter(QObject *watched, QEvent *event)
 {
     // A click checks the item and leaves the list open for the next one.
@@ -160,8 +175,20 @@ bool CheckableTextComboBox::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
+void CheckableTextComboBox::showCount()
+{
+    const int count = m_model->rowCount();
+    const QSet<int> &rows = m_model->checkedRows();
+    const auto checked = std::count_if(rows.cbegin(), rows.cend(), [count](int row) { return row < count; });
+    m_count->setVisible(count > 0);
+    m_count->setText(QStringLiteral("%1/%2").arg(checked).arg(count));
+    const int room = count > 0 ? m_count->sizeHint().width() : 0;
+    m_comboBox->lineEdit()->setTextMargins(isRightToLeft() ? room : 0, 0, isRightToLeft() ? 0 : room, 0);
+}
+
 void CheckableTextComboBox::showChecked()
 {
+    showCount();
     const QString text = checkedTexts().join(QLatin1String("; "));
     if (m_comboBox->lineEdit()->text() == text)
         return;

@@ -26,6 +26,7 @@ NumberRow::NumberRow(
     setUnit(unit);
     addField(m_box, 1);
     connect(m_box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &NumberRow::valueChanged);
+    connect(m_box, &QDoubleSpinBox::editingFinished, this, &NumberRow::editingFinished);
 }
 
 int NumberRow::decimals() const { return m_box->decimals(); }

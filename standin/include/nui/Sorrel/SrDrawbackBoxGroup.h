@@ -94,9 +94,6 @@ public:
     virtual int count() const;
     /// -1 exactly when there is no page.
     virtual int currentIndex() const;
-    /// An index without a page is ignored; in an empty group it is remembered until that page is added.
-    virtual void setCurrentIndex(int index);
-
     /// Null for an index without a page.
     QWidget *widget(int index);
     DrawbackBox *box(int index) const;
@@ -116,6 +113,10 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+public slots:
+    /// An index without a page is ignored; in an empty group it is remembered until that page is added.
+    virtual void setCurrentIndex(int index);
 
 signals:
     /// The index of the current page changed, or another page took its place.
