@@ -7,6 +7,7 @@
 #include <private/qdesigner_utils_p.h>
 
 #include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QDesignerWidgetFactoryInterface>
 
@@ -102,6 +103,42 @@ private slots:
             outside->resize(outside->sizeHint());
             QCOMPARE(colours(outside.get()), 1);
         }
+    }
+
+    /// As Designer's tool box offers the text of its current item.
+    void groupOffersTheTitleOfItsCurrentPage()
+    {
+        m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged \\d+"));
+        FormWindow *form = newForm();
+        auto *group = qobject_cast<Vexa::DrawbackBoxGroup *>(drop(form, "DrawbackBoxGroup"));
+        QVERIFY(trigger(form, group, "Insert Page After Current Page"));
+        const auto saved = [form] { return DesignerHost::save(form); };
+        const QString property = QStringLiteral("currentPageTitle");
+        DesignerHost::select(form, group);
+        const QString before = saved();
+        const int steps = form->commandHistory()->count();
+        form->cursor()->setWidgetProperty(group, property,
+            QVariant::fromValue(qdesigner_internal::PropertySheetStringValue(QStringLiteral("Holes"))));
+        QCOMPARE(group->widget(1)->windowTitle(), QStringLiteral("Holes"));
+        QCOMPARE(form->commandHistory()->count(), steps + 1);
+        const QString after = saved();
+        QCOMPARE(after.count(QLatin1String("<string>Holes</string>")), 1);
+        QVERIFY(!after.contains(property));
+        for (int round = 0; round < 2; ++round) {
+            form->commandHistory()->undo();
+            QCOMPARE(group->pageTitle(1), QStringLiteral("Page 2"));
+            compareTexts(saved(), before);
+            form->commandHistory()->redo();
+            compareTexts(saved(), after);
+        }
+        const QDesignerPropertySheetExtension *sheet = m_host->propertySheet(group);
+        const auto shown = [&] {
+            const QVariant value = sheet->property(sheet->indexOf(property));
+            return value.value<qdesigner_internal::PropertySheetStringValue>().value();
+        };
+        QCOMPARE(shown(), QStringLiteral("Holes"));
+        group->setCurrentIndex(0);
+        QCOMPARE(shown(), QString());
     }
 
     void titleEditedInItsBarIsOneUndoStep()

@@ -87,6 +87,9 @@ private:
 class SORREL_EXPORT DrawbackBoxGroup : public QWidget {
     Q_OBJECT
     Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex NOTIFY currentIndexChanged)
+    // For form editors. What is saved is the title of each page.
+    Q_PROPERTY(QString currentPageTitle READ currentPageTitle WRITE setCurrentPageTitle NOTIFY
+            pageTitleChanged STORED false)
 
 public:
     explicit DrawbackBoxGroup(QWidget *parent = nullptr);
@@ -101,6 +104,10 @@ public:
     QString pageTitle(int index) const;
     /// Sets the title of the current page, unless it is shown already for a page that has none.
     void setPageTitle(const QString &title);
+
+    /// The title of the current page itself, empty for a page that has none.
+    QString currentPageTitle() const;
+    void setCurrentPageTitle(const QString &title);
 
     /// Null and pages that the group has already are ignored.
     Q_INVOKABLE void addPage(QWidget *page);
