@@ -48,7 +48,8 @@ void DrawbackBoxGroupPlugin::currentIndexChanged(int index)
         return;
     form->selectWidget(group->widget(index), true);
     selectShownGroup(form, group);
-    refreshPropertyEditor(form->core(), group, QStringLiteral("currentIndex"));
+    for (const char *property : {"currentIndex", "currentPageTitle"})
+        refreshPropertyEditor(form->core(), group, QLatin1String(property));
 }
 
 /// Selects the group in the place of what was selected on a page that is hidden now, and after a click on it,
@@ -85,6 +86,7 @@ void DrawbackBoxGroupPlugin::pageTitleChanged(const QString &)
     auto *sheet = qt_extension<QDesignerPropertySheetExtension *>(form->core()->extensionManager(), page);
     if (sheet)
         sheet->setChanged(sheet->indexOf(QStringLiteral("windowTitle")), true);
+    refreshPropertyEditor(form->core(), group, QStringLiteral("currentPageTitle"));
 }
 
 void DrawbackBoxGroupPlugin::pageTitleEdited(int index, const QString &before)

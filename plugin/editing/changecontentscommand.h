@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "controlgrowth.h"
 #include "propertyeditorrefresh.h"
 
 #include <private/formwindowbase_p.h>
@@ -15,8 +16,8 @@
 inline constexpr char layOutSlot[] = "updateGeomtries";
 
 /// The undo step of a contents edit: writes the new contents into the control on redo and the old ones on
-/// undo, and then invokes a slot of the control by name, if one is given. Once the control is gone it does
-/// nothing.
+/// undo, and then invokes a slot of the control by name, if one is given. A control without a layout grows
+/// with its contents. Once it is gone the command does nothing.
 ///
 /// Contents do not hold everything that writing them changes, such as entries of a list that no item shows.
 /// Undo puts that back, too, so that the form is again what it was to the byte.
@@ -36,8 +37,10 @@ public:
     void undo() override { apply(m_oldContents, m_putBack); }
     void redo() override
     {
-        if (m_control && !m_putBack)
+        if (m_control && !m_putBack) {
             m_putBack = keepRest(m_control);
+            m_growth = ControlGrowth(formWindow(), m_control);
+        }
         apply(m_newContents, {});
     }
 
@@ -73,6 +76,10 @@ private:
             putBack(m_control);
         if (m_control && m_slot)
             QMetaObject::invokeMethod(m_control, m_slot);
+        if (putBack)
+            m_growth.undo();
+        else
+            m_growth.apply();
         if (m_control)
             refreshPropertyEditor(core(), m_control);
     }
@@ -81,6 +88,7 @@ private:
     Contents m_oldContents;
     Contents m_newContents;
     PutBack m_putBack;
+    ControlGrowth m_growth;
     qdesigner_internal::DesignerIconCache *m_iconCache = nullptr;
     const char *const m_slot;
 };

@@ -14,7 +14,12 @@
 
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QScreen>
+#include <QtWidgets/QSplitter>
 #include <QtWidgets/QUndoStack>
+
+#include <algorithm>
+#include <utility>
 
 using qdesigner_internal::DesignerPropertyManager;
 using qdesigner_internal::PropertySheetStringValue;
@@ -188,7 +193,35 @@ void MatrixEditor::setPropertyBrowserVisible(bool visible)
     AbstractItemEditor::setPropertyBrowserVisible(visible, m_ui->showPropertiesButton);
 }
 
-void MatrixEditor::togglePropertyBrowser() { setPropertyBrowserVisible(!isPropertyBrowserVisible()); }
+void MatrixEditor::togglePropertyBrowser()
+{
+    auto *splitter = static_cast<QSplitter *>(m_ui->widget->parentWidget());
+    const int gridWidth = m_ui->widget->width();
+    const int paneWidth = splitter->widget(1)->sizeHint().width();
+    const bool show = !isPropertyBrowserVisible();
+    setPropertyBrowserVisible(show);
+    if (show)
+        m_paneRoom = growBy(paneWidth + splitter->handleWidth());
+    else
+        growBy(-std::exchange(m_paneRoom, 0));
+    if (show)
+        splitter->setSizes({gridWidth, paneWidth});
+    m_ui->tableWidget->scrollTo(m_ui->tableWidget->currentIndex());
+}
+
+int MatrixEditor::growBy(int width)
+{
+    QWidget *dialog = m_ui->tabWidget->window();
+    const QRect screen = dialog->screen()->availableGeometry();
+    const QRect frame = dialog->frameGeometry();
+    const int possible = std::min(width, std::max(screen.width() - frame.width(), 0));
+    dialog->resize(dialog->width() + possible, dialog->height());
+    // The right end, with the buttons, stays on the screen.
+    const int beyond = frame.right() + possible - screen.right();
+    if (possible > 0 && beyond > 0)
+        dialog->move(std::max(frame.left() - beyond, screen.left()), frame.top());
+    return possible;
+}
 
 MatrixButtonsEditor::MatrixButtonsEditor(QDesignerFormWindowInterface *form, QDialog *dialog)
     : MatrixEditor(form, dialog)

@@ -66,9 +66,12 @@ private:
     void pasteTexts(int role);
     /// Replaces what the cells from the current one on hold under \a roles.
     void setCells(const qdesigner_internal::ItemTable &cells, const QVector<int> &roles);
+    /// Makes the dialog wider by as much of this as the screen has, or narrower; gives what it was.
+    int growBy(int width);
 
     const std::unique_ptr<Ui::MatrixPushButtonsEditor> m_ui;
     MatrixContents m_loaded;
+    int m_paneRoom = 0; ///< by what the dialog has grown for the pane
     bool m_changed = false; ///< whether the table may differ from what was loaded
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "matrixtaskmenus.h"
 
+#include "controlgrowth.h"
 #include "matrixcommands.h"
 #include "matrixeditors.h"
 
@@ -31,6 +32,7 @@ void MatrixPushButtonsTaskMenu::editItems()
 void MatrixPushButtonsTaskMenu::push(QUndoCommand *command)
 {
     const QPointer<QDesignerFormWindowInterface> form = formWindow();
+    const ControlGrowth growth(form, control());
     form->beginCommand(command->text());
     ContentsTaskMenu::push(command);
     // As properties, so that the property editor and the saved form show the size.
@@ -39,6 +41,9 @@ void MatrixPushButtonsTaskMenu::push(QUndoCommand *command)
         if (form && control())
             form->cursor()->setWidgetProperty(control(), QLatin1String(name), QVariant(value));
     }
+    const QRect geometry = growth.wanted();
+    if (form && control() && geometry.isValid() && geometry != control()->geometry())
+        form->cursor()->setWidgetProperty(control(), QStringLiteral("geometry"), geometry);
     if (form)
         form->endCommand();
 }

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "buttongrid.h"
 
+#include "fieldfocus.h"
 #include "icons.h"
+#include "surroundings.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtCore/QHash>
 #include <QtCore/QTimer>
+#include <QtGui/QPainter>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLayout>
+#include <QtWidgets/QStyle>
 
 #include <algorithm>
 #include <cstdlib>
@@ -24,6 +28,8 @@ constexpr QSize padding(6, 0);
 constexpr QSize largestHint(800, 600);
 constexpr QSize largestMinimum(240, 160);
 constexpr QSize smallestCell(16, 16);
+// Where buttons are to come there is room for one with a word on it.
+constexpr int emptyWidthInCharacters = 14;
 // Beyond this number of buttons the ones measured stand for all.
 constexpr int measuredButtons = 256;
 // Changing more buttons than this while they are on the screen takes longer than taking them off and on
@@ -45,6 +51,8 @@ ButtonGrid::ButtonGrid(Maker makeButton, unsigned int maximumSide, QWidget *pare
 {
     m_panel->installEventFilter(this);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    // Without buttons no stop for Tab, with them they are.
+    setFocusPolicy(Qt::ClickFocus);
 }
 
 void ButtonGrid::setContents(const Contents &contents)
@@ -87,7 +95,7 @@ void ButtonGrid::updateChecks()
 {
     if (!m_checkedIndex)
         return;
-    const QAbstractButton *chosen = button(*m_checkedIndex);
+    QAbstractButton *chosen = button(*m_checkedIndex);
     for (QAbstractButton *button : qAsConst(m_buttons)) {
         if (button->isChecked() == (button == chosen))
             continue;
@@ -97,6 +105,8 @@ void ButtonGrid::updateChecks()
         button->setChecked(button == chosen);
         button->setAutoExclusive(exclusive);
     }
+    if (chosen)
+        setFocusProxy(chosen);
 }
 
 void ButtonGrid::refresh()
@@ -168,6 +178,8 @@ void ButtonGrid::updateButtons()
             schedule();
         });
     }
+    if (!focusProxy() && !m_buttons.isEmpty())
+        setFocusProxy(m_buttons.first());
     updateChecks();
     measure();
 }
@@ -181,11 +193,18 @@ void ButtonGrid::makeButtons(int count)
     while (m_buttons.size() > count)
         delete m_buttons.takeLast();
     m_buttons.reserve(count);
+    if (m_buttons.isEmpty())
+        setFocusProxy(nullptr);
     while (m_buttons.size() < count) {
         QAbstractButton *button = m_makeButton(m_panel);
         connect(button, &QAbstractButton::clicked, this, [this, i = m_buttons.size()] {
+            // The focus comes back to the button that is checked.
+            if (m_buttons.at(i)->autoExclusive())
+                setFocusProxy(m_buttons.at(i));
             emit clicked(int(i / m_columns * m_contents.columns) + i % m_columns);
         });
+        // Buttons come when all else stands on the form, but are reached with what was made before them.
+        setNextInTabOrder(m_buttons.isEmpty() ? static_cast<QWidget *>(this) : m_buttons.last(), button);
         m_buttons.append(button);
         if (m_panel->isVisible())
             button->show();
@@ -205,6 +224,8 @@ QSize ButtonGrid::sizeHint() const
 {
     // As with a widget's polishing, the work put off is done when its outcome is asked for.
     const_cast<ButtonGrid *>(this)->updateButtons();
+    if (m_buttons.isEmpty())
+        return {fontMetrics().averageCharWidth() * emptyWidthInCharacters, fontMetrics().height() + 8};
     const QSize all(
         m_columns * (m_cell.width() + spacing) - spacing, m_rows * (m_cell.height() + spacing) - spacing);
     return all.expandedTo(smallestCell).boundedTo(largestHint);
@@ -230,7 +251,8 @@ void ButtonGrid::place()
         const int column = i % m_columns;
         const int left = column * fullWidth / m_columns;
         const int right = (column + 1) * fullWidth / m_columns - spacing;
-        m_buttons.at(i)->setGeometry(left, i / m_columns * rowHeight, std::max(right - left, 1), cellHeight);
+        const QRect cell(left, i / m_columns * rowHeight, std::max(right - left, 1), cellHeight);
+        m_buttons.at(i)->setGeometry(QStyle::visualRect(layoutDirection(), rect(), cell));
     }
     m_panel->show();
 }
@@ -258,10 +280,26 @@ bool ButtonGrid::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
+/// Says where buttons are to come, to whoever edits the form.
+void ButtonGrid::paintEvent(QPaintEvent *)
+{
+    if (!m_buttons.isEmpty() || !isEdited(this))
+        return;
+    QPainter painter(this);
+    painter.setLayoutDirection(layoutDirection());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    const QString text = fontMetrics().elidedText(tr("No buttons yet"), Qt::ElideRight, width());
+    painter.drawText(rect(), Qt::AlignVCenter, text);
+}
+
 void ButtonGrid::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         schedule();
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        m_placedCells = QRect();
+        refresh();
+    }
     QWidget::changeEvent(event);
 }
 

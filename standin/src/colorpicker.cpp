@@ -2,6 +2,7 @@
 #include <nui/Sorrel/SrColorPicker.h>
 
 #include "changeto.h"
+#include "fieldfocus.h"
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
@@ -24,6 +25,7 @@ ColorPicker::ColorPicker(QWidget *parent)
     column->setContentsMargins(0, 0, 0, 0);
     column->addStretch(1);
     column->addWidget(m_code);
+    shareFocus(this);
     static const QRegularExpression code(QStringLiteral("#[0-9a-fA-F]{6}"));
     m_code->setValidator(new QRegularExpressionValidator(code, m_code));
     connect(m_code, &QLineEdit::editingFinished, this, [this] { setColor(QColor(m_code->text())); });

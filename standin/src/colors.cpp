@@ -5,12 +5,39 @@
 
 #include "changeto.h"
 
+#include <QtCore/QEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QColorDialog>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QStyle>
 
 namespace Vexa {
+
+namespace {
+
+/// An arrow from one field to the next.
+class Arrow : public QLabel {
+public:
+    explicit Arrow(QWidget *parent)
+        : QLabel(parent)
+    {
+        point();
+    }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::LayoutDirectionChange)
+            point();
+    }
+
+private:
+    void point() { setText(isRightToLeft() ? QStringLiteral("\u2190") : QStringLiteral("\u2192")); }
+};
+
+} // namespace
 
 ColorButton::ColorButton(QWidget *parent)
     : QPushButton(parent)
@@ -44,6 +71,7 @@ void ColorButton::paintEvent(QPaintEvent *event)
     QRect swatch = rect().adjusted(6, 5, -6, -5);
     if (!text().isEmpty())
         swatch.setWidth(qMin(swatch.width(), swatch.height()));
+    swatch = QStyle::visualRect(layoutDirection(), rect(), swatch);
     QPainter painter(this);
     painter.setOpacity(isEnabled() ? 1.0 : 0.4);
     painter.setPen(palette().color(QPalette::Dark));
@@ -59,7 +87,6 @@ Color::Color(QWidget *parent)
 {
     addField(m_button);
     fields()->addStretch(1);
-    setFocusProxy(m_button);
     connect(m_button, &ColorButton::colorChanged, this, &Color::colorChanged);
 }
 
@@ -72,11 +99,10 @@ ColorTransfer::ColorTransfer(QWidget *parent)
     , m_to(new ColorButton(this))
 {
     addField(m_from);
-    addField(new QLabel(QStringLiteral("\u2192"), this));
+    addField(new Arrow(this));
     addField(m_to);
     fields()->addStretch(1);
     m_to->setColor(Qt::white);
-    setFocusProxy(m_from);
     connect(m_from, &ColorButton::colorChanged, this, &ColorTransfer::fromChanged);
     connect(m_to, &ColorButton::colorChanged, this, &ColorTransfer::toChanged);
 }

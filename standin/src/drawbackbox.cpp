@@ -168,7 +168,7 @@ void DrawbackBox::editTitle()
     m_titleEditor = new QLineEdit(shownTitle());
     m_titleEditor->setObjectName(QStringLiteral("__qt__passive_titleEditor")); // as the box itself
     m_titleEditor->setParent(this);
-    m_titleEditor->setGeometry(titleRect(QRect(0, 0, width(), headerHeight())));
+    m_titleEditor->setGeometry(titleRect(QRect(0, 0, width(), headerHeight()), layoutDirection()));
     m_titleEditor->installEventFilter(this);
     m_titleEditor->selectAll();
     m_titleEditor->show();

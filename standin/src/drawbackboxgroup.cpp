@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/SrDrawbackBoxGroup.h>
 
+#include "surroundings.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSet>
 #include <QtCore/QSignalBlocker>
@@ -93,6 +95,20 @@ void DrawbackBoxGroup::setPageTitle(const QString &title)
     QWidget *page = widget(m_current);
     if (page && title != pageTitle(m_current))
         page->setWindowTitle(title);
+}
+
+QString DrawbackBoxGroup::currentPageTitle() const
+{
+    const DrawbackBox *current = box(m_current);
+    return current ? current->title() : QString();
+}
+
+void DrawbackBoxGroup::setCurrentPageTitle(const QString &title)
+{
+    setPageTitle(title);
+    // A title that an undo takes away is not saved either.
+    if (currentPageTitle().isEmpty())
+        resetInEditor(widget(m_current), QStringLiteral("windowTitle"));
 }
 
 void DrawbackBoxGroup::addPage(QWidget *page) { insertPage(m_boxes.size(), page); }
@@ -327,7 +343,7 @@ void DrawbackBoxGroup::paintEvent(QPaintEvent *)
     if (!m_boxes.isEmpty())
         return;
     QPainter painter(this);
-    painter.setPen(QPen(palette().color(QPalette::Mid), 1, Qt::DashLine));
+    painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1, Qt::DashLine));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -21,9 +21,11 @@ void FormProxy::setFormName(const QString &name)
     emit formNameChanged(name);
 }
 
+QString FormProxy::shownName() const { return m_formName.isEmpty() ? tr("Form") : m_formName; }
+
 QSize FormProxy::sizeHint() const
 {
-    return {qMin(fontMetrics().size(Qt::TextSingleLine, m_formName).width() + 40, 400), 60};
+    return {qBound(120, fontMetrics().size(Qt::TextSingleLine, shownName()).width() + 40, 400), 60};
 }
 
 QSize FormProxy::minimumSizeHint() const { return {40, fontMetrics().height() + 8}; }
@@ -31,13 +33,14 @@ QSize FormProxy::minimumSizeHint() const { return {40, fontMetrics().height() + 
 void FormProxy::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.setPen(QPen(palette().color(QPalette::Mid), 1, Qt::DashLine));
+    // Unlike the shades of the palette it can be seen on a dark window, too.
+    const QColor faint = palette().color(QPalette::PlaceholderText);
+    painter.setPen(QPen(faint, 1, Qt::DashLine));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    painter.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
+    painter.setPen(faint);
     const QRect inside = rect().adjusted(8, 4, -8, -4);
-    const QString text = m_formName.isEmpty() ? tr("Form") : m_formName;
     painter.drawText(
-        inside, Qt::AlignCenter, fontMetrics().elidedText(text, Qt::ElideMiddle, inside.width()));
+        inside, Qt::AlignCenter, fontMetrics().elidedText(shownName(), Qt::ElideMiddle, inside.width()));
 }
 
 } // namespace Vexa

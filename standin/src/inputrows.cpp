@@ -15,12 +15,13 @@ String::String(QWidget *parent)
     , m_edit(new QLineEdit(this))
 {
     addField(m_edit, 1);
-    setFocusProxy(m_edit);
     connect(m_edit, &QLineEdit::textChanged, this, &String::textChanged);
+    connect(m_edit, &QLineEdit::editingFinished, this, &String::editingFinished);
 }
 
 QString String::text() const { return m_edit->text(); }
 void String::setText(const QString &text) { m_edit->setText(text); }
+void String::clear() { m_edit->clear(); }
 QString String::placeholderText() const { return m_edit->placeholderText(); }
 void String::setPlaceholderText(const QString &text) { m_edit->setPlaceholderText(text); }
 bool String::isReadOnly() const { return m_edit->isReadOnly(); }
@@ -31,7 +32,6 @@ CmdButton::CmdButton(QWidget *parent)
     , m_button(new QPushButton(tr("Run"), this))
 {
     addField(m_button, 1);
-    setFocusProxy(m_button);
     connect(m_button, &QPushButton::clicked, this, [this] {
         emit clicked();
         if (!m_command.isEmpty())
@@ -39,6 +39,7 @@ CmdButton::CmdButton(QWidget *parent)
     });
 }
 
+void CmdButton::click() { m_button->click(); }
 QString CmdButton::text() const { return m_button->text(); }
 void CmdButton::setText(const QString &text) { m_button->setText(text); }
 QIcon CmdButton::icon() const { return m_button->icon(); }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/SrLineEditEx.h>
 
+#include "fieldfocus.h"
 #include "itemlistmodel.h"
 
 #include <QtCore/QTimer>
@@ -8,6 +9,8 @@
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
@@ -64,11 +67,19 @@ void LineEditBtn::resizeEvent(QResizeEvent *event)
     placeButton();
 }
 
+void LineEditBtn::changeEvent(QEvent *event)
+{
+    LineEditEx::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        placeButton();
+}
+
 void LineEditBtn::placeButton()
 {
     const int width = std::max(m_button->sizeHint().width(), height());
-    m_button->setGeometry(this->width() - width, 0, width, height());
-    setTextMargins(0, 0, width, 0);
+    const QRect place(this->width() - width, 0, width, height());
+    m_button->setGeometry(QStyle::visualRect(layoutDirection(), rect(), place));
+    setTextMargins(isRightToLeft() ? width : 0, 0, isRightToLeft() ? 0 : width, 0);
 }
 
 CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)
@@ -88,7 +99,14 @@ CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_comboBox);
-    setFocusProxy(m_comboBox);
+    m_count = new QLabel(m_comboBox->lineEdit());
+    m_count->setForegroundRole(QPalette::PlaceholderText);
+    m_count->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto *inLine = new QHBoxLayout(m_comboBox->lineEdit());
+    inLine->setContentsMargins(2, 0, 2, 0);
+    inLine->addWidget(m_count, 0, Qt::AlignTrailing);
+    showCount();
+    shareFocus(this);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     connect(m_model, &ItemListModel::dataChanged, this, [this] {
@@ -138,6 +156,13 @@ QStringList CheckableTextComboBox::checkedTexts() const
     return texts;
 }
 
+void CheckableTextComboBox::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange || event->type() == QEvent::FontChange)
+        showCount();
+}
+
 bool CheckableTextComboBox::eventFilter(QObject *watched, QEvent *event)
 {
     // A click checks the item and leaves the list open for the next one.
@@ -150,8 +175,20 @@ bool CheckableTextComboBox::eventFilter(QObject *watched, QEvent *event)
     return QWidget::eventFilter(watched, event);
 }
 
+void CheckableTextComboBox::showCount()
+{
+    const int count = m_model->rowCount();
+    const QSet<int> &rows = m_model->checkedRows();
+    const auto checked = std::count_if(rows.cbegin(), rows.cend(), [count](int row) { return row < count; });
+    m_count->setVisible(count > 0);
+    m_count->setText(QStringLiteral("%1/%2").arg(checked).arg(count));
+    const int room = count > 0 ? m_count->sizeHint().width() : 0;
+    m_comboBox->lineEdit()->setTextMargins(isRightToLeft() ? room : 0, 0, isRightToLeft() ? 0 : room, 0);
+}
+
 void CheckableTextComboBox::showChecked()
 {
+    showCount();
     const QString text = checkedTexts().join(QLatin1String("; "));
     if (m_comboBox->lineEdit()->text() == text)
         return;

@@ -6,6 +6,7 @@
 #include "strokebox.h"
 
 #include "changeto.h"
+#include "surroundings.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QPainter>
@@ -20,6 +21,9 @@ namespace {
 
 constexpr double standardWidths[] = {0.13, 0.18, 0.25, 0.35, 0.5, 0.7, 1.0, 1.4, 2.0};
 constexpr double widestLine = 25;
+constexpr int thickness = 5;
+constexpr int shortestLength = 16;
+constexpr int freeLength = 118;
 constexpr int widthRole = Qt::UserRole;
 
 /// Puts a width where it belongs in the rising series and gives its index.
@@ -78,7 +82,11 @@ void Line::setOrientation(Qt::Orientation orientation)
     emit orientationChanged(orientation);
 }
 
-QSize Line::sizeHint() const { return m_orientation == Qt::Horizontal ? QSize(16, 5) : QSize(5, 16); }
+QSize Line::sizeHint() const
+{
+    const QSize lying(standsFree(this) ? freeLength : shortestLength, thickness);
+    return m_orientation == Qt::Horizontal ? lying : lying.transposed();
+}
 
 void Line::paintEvent(QPaintEvent *)
 {

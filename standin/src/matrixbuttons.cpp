@@ -3,6 +3,8 @@
 #include <nui/Sorrel/SrMatrixPopButtons.h>
 
 #include "buttongrid.h"
+#include "fieldfocus.h"
+#include "surroundings.h"
 
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QCheckBox>
@@ -15,6 +17,8 @@ namespace Vexa {
 namespace {
 
 constexpr unsigned int maximumSide = 99;
+// Check boxes and radio buttons without a text are tiny, and so is a fresh matrix of them.
+constexpr QSize freeMatrix(96, 48);
 
 QAbstractButton *makePush(QWidget *parent) { return new QPushButton(parent); }
 QAbstractButton *makeRadio(QWidget *parent) { return new QRadioButton(parent); }
@@ -37,6 +41,7 @@ ButtonGrid *makeGrid(ButtonGrid::Maker makeButton, QWidget *parent)
     auto *layout = new QVBoxLayout(parent);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(grid);
+    shareFocus(parent);
     parent->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return grid;
 }
@@ -67,6 +72,12 @@ AbstractMatrixOptions::AbstractMatrixOptions(ButtonMaker makeButton, QWidget *pa
     , m_grid(makeGrid(makeButton, this))
 {
     relayClicks(m_grid, this);
+}
+
+QSize AbstractMatrixOptions::sizeHint() const
+{
+    const QSize hint = QWidget::sizeHint();
+    return standsFree(this) ? hint.expandedTo(freeMatrix) : hint;
 }
 
 using Contents = ButtonGrid::Contents;

@@ -4,6 +4,7 @@
 #include <nui/Sorrel/Template/SrNumber.h>
 #include <nui/Sorrel/Template/SrSlider.h>
 
+#include "fieldfocus.h"
 #include "numbers.h"
 
 #include <QtCore/QSignalBlocker>
@@ -24,8 +25,8 @@ NumberRow::NumberRow(
     m_box->setMinimumWidth(m_box->fontMetrics().averageCharWidth() * 10);
     setUnit(unit);
     addField(m_box, 1);
-    setFocusProxy(m_box);
     connect(m_box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this, &NumberRow::valueChanged);
+    connect(m_box, &QDoubleSpinBox::editingFinished, this, &NumberRow::editingFinished);
 }
 
 int NumberRow::decimals() const { return m_box->decimals(); }
@@ -112,6 +113,7 @@ Slider::Slider(QWidget *parent)
     m_slider->setRange(0, sliderSteps);
     setDecimals(0);
     fields()->insertWidget(0, m_slider, 2);
+    shareFocus(this);
     connect(m_slider, &QSlider::valueChanged, this,
         [this](int position) { setValue(sliderValue(position, minimum(), maximum())); });
     connect(this, &NumberRow::valueChanged, this, &Slider::followValue);

@@ -142,9 +142,11 @@ OptionCheckBox::OptionCheckBox(QWidget *parent)
 {
     addField(m_checkBox, 1);
     OptionCheckBox::showCurrentIndex();
-    connect(
-        m_checkBox, &QCheckBox::clicked, this, [this](bool checked) { setCurrentIndex(checked ? 0 : 1); });
+    connect(m_checkBox, &QCheckBox::clicked, this, &OptionCheckBox::setChecked);
+    connect(m_checkBox, &QCheckBox::toggled, this, &OptionCheckBox::toggled);
 }
+
+void OptionCheckBox::setChecked(bool checked) { setCurrentIndex(checked ? 0 : 1); }
 
 void OptionCheckBox::showOptions() { showCurrentIndex(); }
 

@@ -3,6 +3,7 @@
 #include <nui/Sorrel/Template/SrPoint.h>
 #include <nui/Sorrel/Template/SrWindow.h>
 
+#include "fieldfocus.h"
 #include "glyphbutton.h"
 #include "numbers.h"
 
@@ -16,15 +17,28 @@ namespace Vexa {
 
 namespace {
 
+/// The hint of a plain box is wide enough for its limits, which coordinates hardly ever come near.
+class CoordinateBox : public QDoubleSpinBox {
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+
+    QSize sizeHint() const override
+    {
+        return {fontMetrics().averageCharWidth() * 12, QDoubleSpinBox::sizeHint().height()};
+    }
+    QSize minimumSizeHint() const override
+    {
+        return {fontMetrics().averageCharWidth() * 8, QDoubleSpinBox::minimumSizeHint().height()};
+    }
+};
+
 QDoubleSpinBox *newCoordinateBox(QWidget *parent)
 {
-    auto *box = new QDoubleSpinBox(parent);
+    auto *box = new CoordinateBox(parent);
     box->setDecimals(3);
     box->setRange(-numberLimit, numberLimit);
     box->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    // The hint of a box is wide enough for its limits, which coordinates hardly ever come near.
-    box->setMinimumWidth(box->fontMetrics().averageCharWidth() * 8);
-    box->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return box;
 }
 
@@ -50,6 +64,7 @@ void PickRow::addPickButton(const QString &prompt, Qt::Orientation orientation)
         // Beside a tall field the caption stands at the top.
         layout()->itemAt(0)->setAlignment(Qt::AlignTop);
     }
+    shareFocus(this);
     setPrompt(prompt);
 }
 
@@ -65,6 +80,7 @@ void PickRow::addButton(QToolButton *button)
 {
     const bool column = m_buttons->direction() == QBoxLayout::TopToBottom;
     m_buttons->insertWidget(column ? m_buttons->count() - 1 : m_buttons->count(), button);
+    shareFocus(this);
 }
 
 QString PickRow::prompt() const { return m_pick->toolTip(); }
@@ -100,7 +116,6 @@ Point::Point(QWidget *parent)
     m_axes[1]->setPrefix(QStringLiteral("Y "));
     m_axes[2]->setPrefix(QStringLiteral("Z "));
     addPickButton(tr("Pick a point"));
-    setFocusProxy(m_axes[0]);
 }
 
 int Point::decimals() const { return m_axes[0]->decimals(); }
@@ -130,7 +145,6 @@ Window::Window(QWidget *parent)
     m_first = addCorner(grid, tr("From"));
     m_second = addCorner(grid, tr("To"));
     addPickButton(tr("Pick two corners"));
-    setFocusProxy(m_first.x);
 }
 
 Window::Corner Window::addCorner(QGridLayout *grid, const QString &caption)

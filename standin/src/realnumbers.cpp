@@ -3,6 +3,7 @@
 #include <nui/Sorrel/SrRealNumberEdit.h>
 
 #include "changeto.h"
+#include "fieldfocus.h"
 #include "numbers.h"
 
 #include <QtCore/QSignalBlocker>
@@ -108,7 +109,7 @@ RealNumberSlider::RealNumberSlider(QWidget *parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_slider, 1);
     row->addWidget(m_edit);
-    setFocusProxy(m_slider);
+    shareFocus(this);
 
     connect(m_slider, &QSlider::valueChanged, this,
         [this](int position) { setValue(sliderValue(position, minimum(), maximum())); });

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/SrSelectList.h>
 
+#include "fieldfocus.h"
+
+#include <QtCore/QEvent>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QToolButton>
@@ -44,6 +47,7 @@ SelectList::SelectList(QWidget *parent)
     m_remove = addButton(middle, Qt::LeftArrow, tr("Remove"));
     m_up = addButton(right, Qt::UpArrow, tr("Move up"));
     m_down = addButton(right, Qt::DownArrow, tr("Move down"));
+    shareFocus(this);
 
     connect(m_add, &QToolButton::clicked, this, [this] { move(m_available, m_selected); });
     connect(m_remove, &QToolButton::clicked, this, [this] { move(m_selected, m_available); });
@@ -53,6 +57,7 @@ SelectList::SelectList(QWidget *parent)
     connect(m_selected, &QListWidget::itemDoubleClicked, m_remove, &QToolButton::click);
     for (QListWidget *list : {m_available, m_selected})
         connect(list, &QListWidget::itemSelectionChanged, this, &SelectList::updateButtons);
+    pointButtons();
     updateButtons();
 }
 
@@ -117,6 +122,20 @@ void SelectList::shift(int rows)
     m_selected->insertItem(to, m_selected->takeItem(from));
     m_selected->setCurrentRow(to);
     emit selectedChanged(selected());
+}
+
+void SelectList::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        pointButtons();
+}
+
+/// The selected ones stand on the left where writing starts on the right.
+void SelectList::pointButtons()
+{
+    m_add->setArrowType(isRightToLeft() ? Qt::LeftArrow : Qt::RightArrow);
+    m_remove->setArrowType(isRightToLeft() ? Qt::RightArrow : Qt::LeftArrow);
 }
 
 void SelectList::updateButtons()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "strokebox.h"
 
+#include "fieldfocus.h"
+
 #include <QtGui/QPainter>
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QStylePainter>
@@ -21,12 +23,17 @@ void drawItem(
     pen.setColor(ink);
     pen.setCapStyle(Qt::FlatCap);
     painter->setPen(pen);
-    const int middle = inside.center().y() + 1;
-    painter->drawLine(inside.left(), middle, inside.left() + strokeLength, middle);
-    const QRect textRect = inside.adjusted(strokeLength + 2 * margin, 0, 0, 0);
+    const auto mirrored = [painter, &inside](const QRect &part) {
+        return QStyle::visualRect(painter->layoutDirection(), inside, part);
+    };
+    const QRect line = mirrored({inside.left(), inside.center().y() + 1, strokeLength, 1});
+    painter->drawLine(line.topLeft(), line.topRight());
+    const QRect textRect = mirrored(inside.adjusted(strokeLength + 2 * margin, 0, 0, 0));
     const QString shown = painter->fontMetrics().elidedText(text, Qt::ElideRight, textRect.width());
     painter->setPen(ink);
-    painter->drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft, shown);
+    // A number stays in front of its unit where writing starts on the right.
+    const bool number = !shown.isEmpty() && shown.at(0).isDigit();
+    painter->drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft, number ? QChar(0x200e) + shown : shown);
 }
 
 class StrokeDelegate : public QStyledItemDelegate {
@@ -37,6 +44,7 @@ public:
     {
         const bool selected = option.state & QStyle::State_Selected;
         painter->save();
+        painter->setLayoutDirection(option.direction);
         if (selected)
             painter->fillRect(option.rect, option.palette.highlight());
         drawItem(painter, option.rect, index.data(strokeRole), index.data().toString(),
@@ -54,11 +62,11 @@ StrokeBox::StrokeBox(QWidget *owner)
     auto *layout = new QVBoxLayout(owner);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(this);
-    owner->setFocusProxy(this);
+    shareFocus(owner);
     owner->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
-QSize StrokeBox::sizeHint() const { return QComboBox::sizeHint() + QSize(strokeLength + 3 * margin, 0); }
+QSize StrokeBox::sizeHint() const { return QComboBox::sizeHint() + QSize(strokeLength + 5 * margin, 0); }
 
 void StrokeBox::paintEvent(QPaintEvent *)
 {
@@ -68,6 +76,7 @@ void StrokeBox::paintEvent(QPaintEvent *)
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     const QRect field
         = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    painter.setLayoutDirection(layoutDirection());
     drawItem(&painter, field, currentData(strokeRole), currentText(),
         palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include <nui/Sorrel/Template/SrTemplate.h>
 
+#include "fieldfocus.h"
+
 #include <QtWidgets/QBoxLayout>
 #include <QtWidgets/QLabel>
 
@@ -32,6 +34,10 @@ void TemplateWidget::setTitle(const QString &title)
     m_caption->setVisible(!title.isEmpty());
 }
 
-void TemplateWidget::addField(QWidget *field, int stretch) { m_fields->addWidget(field, stretch); }
+void TemplateWidget::addField(QWidget *field, int stretch)
+{
+    m_fields->addWidget(field, stretch);
+    shareFocus(this);
+}
 
 } // namespace Vexa

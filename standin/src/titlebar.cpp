@@ -10,7 +10,10 @@ namespace Vexa {
 
 int titleBarHeight(const QWidget *panel) { return panel->fontMetrics().height() + 8; }
 
-QRect titleRect(const QRect &bar) { return bar.adjusted(20, 0, -6, 0); }
+QRect titleRect(const QRect &bar, Qt::LayoutDirection direction)
+{
+    return QStyle::visualRect(direction, bar, bar.adjusted(20, 0, -6, 0));
+}
 
 void paintTitleBar(QPainter *painter, const QRect &bar, const QWidget *panel, const QString &title, bool open)
 {
@@ -25,16 +28,19 @@ void paintTitleBar(QPainter *painter, const QRect &bar, const QWidget *panel, co
 
     QStyleOption arrow;
     arrow.initFrom(panel);
-    arrow.rect = QRect(bar.left() + 6, bar.center().y() - 4, 9, 9);
-    panel->style()->drawPrimitive(
-        open ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight, &arrow, painter, panel);
+    const Qt::LayoutDirection direction = panel->layoutDirection();
+    arrow.rect = QStyle::visualRect(direction, bar, QRect(bar.left() + 6, bar.center().y() - 4, 9, 9));
+    const auto closed
+        = direction == Qt::LeftToRight ? QStyle::PE_IndicatorArrowRight : QStyle::PE_IndicatorArrowLeft;
+    panel->style()->drawPrimitive(open ? QStyle::PE_IndicatorArrowDown : closed, &arrow, painter, panel);
 
     QFont font = panel->font();
     font.setBold(true);
     painter->setFont(font);
+    painter->setLayoutDirection(direction);
     painter->setPen(
         palette.color(panel->isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
-    const QRect textRect = titleRect(bar);
+    const QRect textRect = titleRect(bar, direction);
     painter->drawText(textRect, Qt::AlignVCenter | Qt::TextSingleLine,
         QFontMetrics(font).elidedText(title, Qt::ElideRight, textRect.width()));
 

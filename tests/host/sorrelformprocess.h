@@ -50,6 +50,13 @@ inline Result run(const QStringList &arguments, const QString &folder = QString(
     return result;
 }
 
+inline QByteArray read(const QString &fileName)
+{
+    QFile file(fileName);
+    file.open(QIODevice::ReadOnly);
+    return file.readAll();
+}
+
 inline QStringList exampleForms()
 {
     const QDir folder(QStringLiteral(EXAMPLES "/forms"));

@@ -3,6 +3,7 @@
 
 #include <QtDesigner/QDesignerPropertySheetExtension>
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTableWidget>
@@ -128,6 +129,41 @@ class TestGridEditing : public EditingTest {
     }
 
 private slots:
+    void paneMakesItsOwnRoom_data() { addRows(kinds); }
+    void paneMakesItsOwnRoom()
+    {
+        FormWindow *form = newForm();
+        QWidget *matrix = HostTest::drop(form, currentRow(kinds).name);
+        matrix->setProperty("row", 20u);
+        matrix->setProperty("column", 9u);
+        QVERIFY(EditingTest::edit(form, matrix, "Edit Buttons", [](QDialog *dialog) {
+            auto *table = dialog->findChild<QTableWidget *>();
+            table->setCurrentCell(19, 8);
+            const QSize narrow = dialog->size();
+            const int gridWidth = table->width();
+            for (int round = 0; round < 2; ++round) {
+                press(dialog, "showPropertiesButton");
+                const PaneDriver pane(dialog);
+                QTRY_VERIFY(pane.tree()->isVisible());
+                constexpr int forValues = 150;
+                QTRY_VERIFY(pane.tree()->columnWidth(1) >= forValues);
+                QVERIFY(qAbs(table->width() - gridWidth) <= 2);
+                QCOMPARE(dialog->height(), narrow.height());
+                QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->currentItem())));
+                press(dialog, "showPropertiesButton");
+                QTRY_COMPARE(dialog->size(), narrow);
+                QVERIFY(!pane.tree()->isVisible());
+            }
+            // Where the screen has no more room the grid gives some, but not the cell that is edited.
+            dialog->resize(dialog->screen()->availableSize());
+            const QSize wide = dialog->size();
+            press(dialog, "showPropertiesButton");
+            QCOMPARE(dialog->size(), wide);
+            QTRY_VERIFY(table->width() < wide.width() - 300);
+            QVERIFY(table->viewport()->rect().contains(table->visualItemRect(table->currentItem())));
+        }));
+    }
+
     void dialogOpensFromMenuAndDoubleClick_data() { addRows(kinds); }
     void dialogOpensFromMenuAndDoubleClick()
     {

@@ -389,13 +389,6 @@ private:
         file.write(text);
         return fileName;
     }
-    static QByteArray read(const QString &fileName)
-    {
-        QFile file(fileName);
-        file.open(QIODevice::ReadOnly);
-        return file.readAll();
-    }
-
     QTemporaryDir m_folder;
 };
 

@@ -4,7 +4,15 @@
 
 #include <sorrel/SrDrawbackBoxGroup.h>
 
+#include <private/qdesigner_utils_p.h>
+
+#include <QtDesigner/QDesignerFormEditorInterface>
+#include <QtDesigner/QDesignerFormWindowCursorInterface>
+#include <QtDesigner/QDesignerPropertySheetExtension>
+#include <QtDesigner/QDesignerWidgetFactoryInterface>
+
 #include <QtCore/QDir>
+#include <QtCore/QSet>
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QComboBox>
@@ -47,6 +55,90 @@ private slots:
         buttons->setProperty("iconList", words("up.png"));
         QVERIFY(QMetaObject::invokeMethod(buttons, "updateGeomtries"));
         QVERIFY(!buttons->findChild<QAbstractButton *>()->icon().isNull());
+    }
+
+    /// The form editor's tab order and buddy modes go by the focus policy.
+    void fieldsAreStopsInTheTabOrder()
+    {
+        m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged .*"));
+        const QStringList withoutFields = words("DrawbackBoxGroup Form FormProxy Line");
+        for (const QString &control : m_host->controls()) {
+            FormWindow *form = newForm();
+            QWidget *dropped = m_host->drop(form, control, {60, 60});
+            const QDesignerPropertySheetExtension *sheet = m_host->propertySheet(dropped);
+            const int index = sheet->indexOf(QStringLiteral("focusPolicy"));
+            bool isEnum = false;
+            const int policy = qdesigner_internal::Utils::valueOf(sheet->property(index), &isEnum);
+            QVERIFY(isEnum);
+            const bool stop = !withoutFields.contains(control.section(QLatin1Char(':'), 2));
+            QVERIFY2(bool(policy & Qt::TabFocus) == stop, qPrintable(control));
+            QVERIFY2(!DesignerHost::save(form).contains(QLatin1String("focusPolicy")), qPrintable(control));
+            close(form);
+        }
+    }
+
+    /// Whoever edits the form sees where buttons are to come, whoever uses it does not.
+    void emptyControlsSaySoInTheEditorOnly()
+    {
+        const auto colours = [](QWidget *control) {
+            QSet<QRgb> found;
+            QImage image;
+            for (QWidget *child : control->findChildren<QWidget *>()) {
+                if (child->inherits("Vexa::ButtonGrid"))
+                    image = child->grab().toImage();
+            }
+            for (int y = 0; y < image.height(); ++y) {
+                for (int x = 0; x < image.width(); ++x)
+                    found.insert(image.pixel(x, y));
+            }
+            return found.size();
+        };
+        for (const char *kind : {"OptionButtons", "OptionRadios"}) {
+            FormWindow *form = newForm();
+            QWidget *control = drop(form, kind);
+            control->resize(control->sizeHint());
+            QVERIFY(colours(control) > 1);
+            const std::unique_ptr<QWidget> outside(
+                form->core()->widgetFactory()->createWidget(QLatin1String("Vexa::") + QLatin1String(kind)));
+            outside->resize(outside->sizeHint());
+            QCOMPARE(colours(outside.get()), 1);
+        }
+    }
+
+    /// As Designer's tool box offers the text of its current item.
+    void groupOffersTheTitleOfItsCurrentPage()
+    {
+        m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged \\d+"));
+        FormWindow *form = newForm();
+        auto *group = qobject_cast<Vexa::DrawbackBoxGroup *>(drop(form, "DrawbackBoxGroup"));
+        QVERIFY(trigger(form, group, "Insert Page After Current Page"));
+        const auto saved = [form] { return DesignerHost::save(form); };
+        const QString property = QStringLiteral("currentPageTitle");
+        DesignerHost::select(form, group);
+        const QString before = saved();
+        const int steps = form->commandHistory()->count();
+        form->cursor()->setWidgetProperty(group, property,
+            QVariant::fromValue(qdesigner_internal::PropertySheetStringValue(QStringLiteral("Holes"))));
+        QCOMPARE(group->widget(1)->windowTitle(), QStringLiteral("Holes"));
+        QCOMPARE(form->commandHistory()->count(), steps + 1);
+        const QString after = saved();
+        QCOMPARE(after.count(QLatin1String("<string>Holes</string>")), 1);
+        QVERIFY(!after.contains(property));
+        for (int round = 0; round < 2; ++round) {
+            form->commandHistory()->undo();
+            QCOMPARE(group->pageTitle(1), QStringLiteral("Page 2"));
+            compareTexts(saved(), before);
+            form->commandHistory()->redo();
+            compareTexts(saved(), after);
+        }
+        const QDesignerPropertySheetExtension *sheet = m_host->propertySheet(group);
+        const auto shown = [&] {
+            const QVariant value = sheet->property(sheet->indexOf(property));
+            return value.value<qdesigner_internal::PropertySheetStringValue>().value();
+        };
+        QCOMPARE(shown(), QStringLiteral("Holes"));
+        group->setCurrentIndex(0);
+        QCOMPARE(shown(), QString());
     }
 
     void titleEditedInItsBarIsOneUndoStep()

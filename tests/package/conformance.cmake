@@ -4,8 +4,10 @@
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE "${SCRATCH}")
-execute_process(COMMAND ${CMAKE_COMMAND} --install "${BUILD}" --component standin --prefix "${SCRATCH}/hpp"
-    OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+foreach(component standin standin-dev)
+    execute_process(COMMAND ${CMAKE_COMMAND} --install "${BUILD}" --component ${component} --prefix "${SCRATCH}/hpp"
+        OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+endforeach()
 
 # Its headers become .hpp, in their names and where they include each other.
 file(GLOB_RECURSE headers "${SCRATCH}/hpp/include/*.h")

@@ -108,7 +108,8 @@ QVector<QMetaProperty> ownProperties(const QWidget *control)
     for (int i = 0; i < control->metaObject()->propertyCount(); ++i) {
         const QMetaProperty property = control->metaObject()->property(i);
         if (qstrncmp(property.enclosingMetaObject()->className(), "Vexa::", 6) == 0 && property.isWritable()
-            && property.userType() != QMetaType::QIcon && qstrcmp(property.name(), "currentIndex") != 0)
+            && property.isStored() && property.userType() != QMetaType::QIcon
+            && qstrcmp(property.name(), "currentIndex") != 0)
             properties += property;
     }
     return properties;

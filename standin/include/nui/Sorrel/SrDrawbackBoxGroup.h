@@ -87,6 +87,9 @@ private:
 class SORREL_EXPORT DrawbackBoxGroup : public QWidget {
     Q_OBJECT
     Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex NOTIFY currentIndexChanged)
+    // For form editors. What is saved is the title of each page.
+    Q_PROPERTY(QString currentPageTitle READ currentPageTitle WRITE setCurrentPageTitle NOTIFY
+            pageTitleChanged STORED false)
 
 public:
     explicit DrawbackBoxGroup(QWidget *parent = nullptr);
@@ -94,9 +97,6 @@ public:
     virtual int count() const;
     /// -1 exactly when there is no page.
     virtual int currentIndex() const;
-    /// An index without a page is ignored; in an empty group it is remembered until that page is added.
-    virtual void setCurrentIndex(int index);
-
     /// Null for an index without a page.
     QWidget *widget(int index);
     DrawbackBox *box(int index) const;
@@ -104,6 +104,10 @@ public:
     QString pageTitle(int index) const;
     /// Sets the title of the current page, unless it is shown already for a page that has none.
     void setPageTitle(const QString &title);
+
+    /// The title of the current page itself, empty for a page that has none.
+    QString currentPageTitle() const;
+    void setCurrentPageTitle(const QString &title);
 
     /// Null and pages that the group has already are ignored.
     Q_INVOKABLE void addPage(QWidget *page);
@@ -116,6 +120,10 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+public slots:
+    /// An index without a page is ignored; in an empty group it is remembered until that page is added.
+    virtual void setCurrentIndex(int index);
 
 signals:
     /// The index of the current page changed, or another page took its place.

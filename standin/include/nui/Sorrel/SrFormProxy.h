@@ -16,9 +16,11 @@ public:
     explicit FormProxy(QWidget *parent = nullptr);
 
     QString formName() const { return m_formName; }
-    void setFormName(const QString &name);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+public Q_SLOTS:
+    void setFormName(const QString &name);
 
 Q_SIGNALS:
     void formNameChanged(const QString &name);
@@ -27,6 +29,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QString shownName() const;
+
     QString m_formName;
 };
 

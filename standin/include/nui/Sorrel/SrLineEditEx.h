@@ -7,6 +7,7 @@
 #include <QtWidgets/QLineEdit>
 
 class QComboBox;
+class QLabel;
 class QToolButton;
 
 namespace Vexa {
@@ -44,6 +45,7 @@ signals:
     void buttonClicked();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
@@ -52,7 +54,8 @@ private:
     QToolButton *m_button;
 };
 
-/// A combo box whose items are checked on and off; its line shows the texts of the checked ones.
+/// A combo box whose items are checked on and off; its line shows the texts of the checked ones, and how many
+/// of how many they are.
 class SORREL_EXPORT CheckableTextComboBox : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QStringList itemTextList READ itemTextList WRITE setItemTextList)
@@ -80,11 +83,14 @@ signals:
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void showChecked();
+    void showCount();
 
     QComboBox *m_comboBox;
+    QLabel *m_count;
     ItemListModel *m_model;
 };
 

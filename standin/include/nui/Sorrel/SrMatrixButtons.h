@@ -44,6 +44,8 @@ public:
     /// The button at a flat index, null where there is none. The grid owns it.
     QAbstractButton *button(int index);
 
+    QSize sizeHint() const override;
+
 public slots:
     /// Lays out the buttons at once; the setters do it with the next round of events.
     void updateGeomtries();

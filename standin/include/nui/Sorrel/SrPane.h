@@ -21,10 +21,12 @@ public:
     QString title() const { return m_title; }
     void setTitle(const QString &title);
     bool isCollapsed() const { return m_collapsed; }
-    void setCollapsed(bool collapsed);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+public slots:
+    void setCollapsed(bool collapsed);
 
 signals:
     void collapsedChanged(bool collapsed);

@@ -31,10 +31,14 @@ Q_SIGNALS:
     void availableChanged(const QStringList &texts);
     void selectedChanged(const QStringList &texts);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     QToolButton *addButton(QBoxLayout *column, Qt::ArrowType arrow, const QString &toolTip);
     void move(QListWidget *from, QListWidget *to);
     void shift(int rows);
+    void pointButtons();
     void updateButtons();
 
     QListWidget *m_available;

@@ -26,6 +26,10 @@ public:
     QString command() const { return m_command; }
     void setCommand(const QString &command);
 
+public Q_SLOTS:
+    /// As if the user had pressed the button.
+    void click();
+
 Q_SIGNALS:
     void clicked();
     void commandChanged(const QString &command);

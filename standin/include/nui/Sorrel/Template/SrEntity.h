@@ -19,6 +19,7 @@ public:
 
 public Q_SLOTS:
     void setEntity(const QString &name);
+    void clear() { setEntity(QString()); }
 
 Q_SIGNALS:
     void entityChanged(const QString &name);

@@ -21,6 +21,7 @@ public:
 
 public Q_SLOTS:
     void setEntities(const QStringList &names);
+    void clear() { setEntities({}); }
 
 Q_SIGNALS:
     void entitiesChanged(const QStringList &names);

@@ -43,6 +43,7 @@ Q_SIGNALS:
     void unitChanged(const QString &unit);
     void rangeChanged(double minimum, double maximum);
     void valueChanged(double value);
+    void editingFinished();
 
 protected:
     NumberRow(const QString &title, const QString &unit, double minimum, double maximum, QWidget *parent);

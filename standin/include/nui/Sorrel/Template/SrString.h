@@ -25,9 +25,11 @@ public:
 
 public Q_SLOTS:
     void setText(const QString &text);
+    void clear();
 
 Q_SIGNALS:
     void textChanged(const QString &text);
+    void editingFinished();
 
 private:
     QLineEdit *m_edit;

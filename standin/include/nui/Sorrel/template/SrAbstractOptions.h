@@ -33,9 +33,11 @@ public:
 
     /// The chosen option. An index without an option is kept, because the options may arrive later.
     int currentIndex() const { return m_currentIndex; }
-    void setCurrentIndex(int index);
     /// The data string of the chosen option.
     QString currentData() const { return dataList().value(m_currentIndex); }
+
+public slots:
+    void setCurrentIndex(int index);
 
 signals:
     void currentIndexChanged(int index);

@@ -15,6 +15,12 @@ class SORREL_EXPORT OptionCheckBox : public AbstractOptions {
 public:
     explicit OptionCheckBox(QWidget *parent = nullptr);
 
+public slots:
+    void setChecked(bool checked);
+
+signals:
+    void toggled(bool checked);
+
 protected:
     void showOptions() override;
     void showCurrentIndex() override;

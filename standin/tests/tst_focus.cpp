@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: BSD-3-Clause
+#include "quiettest.h"
+#include "testdata.h"
+
+#include <nui/Sorrel/SrColorPicker.h>
+#include <nui/Sorrel/SrLineEditEx.h>
+#include <nui/Sorrel/SrLineType.h>
+#include <nui/Sorrel/SrLineWidth.h>
+#include <nui/Sorrel/SrMatrixButtons.h>
+#include <nui/Sorrel/SrMatrixPopButtons.h>
+#include <nui/Sorrel/SrRealNumber.h>
+#include <nui/Sorrel/SrSelectList.h>
+#include <nui/Sorrel/Template/ColorTransfer.h>
+#include <nui/Sorrel/Template/SrAngle.h>
+#include <nui/Sorrel/Template/SrCmdButton.h>
+#include <nui/Sorrel/Template/SrColor.h>
+#include <nui/Sorrel/Template/SrDistance.h>
+#include <nui/Sorrel/Template/SrEntityTable.h>
+#include <nui/Sorrel/Template/SrNumber.h>
+#include <nui/Sorrel/Template/SrPinEntity.h>
+#include <nui/Sorrel/Template/SrPinEntityList.h>
+#include <nui/Sorrel/Template/SrPoint.h>
+#include <nui/Sorrel/Template/SrSlider.h>
+#include <nui/Sorrel/Template/SrString.h>
+#include <nui/Sorrel/Template/SrWindow.h>
+#include <nui/Sorrel/template/SrOptionButtons.h>
+#include <nui/Sorrel/template/SrOptionCheckBox.h>
+#include <nui/Sorrel/template/SrOptionComboBox.h>
+#include <nui/Sorrel/template/SrOptionRadios.h>
+
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QAbstractItemView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QVBoxLayout>
+
+using namespace Vexa;
+
+namespace {
+
+struct Kind {
+    const char *name;
+    Maker make;
+    int stops; ///< for the Tab key, with all fields enabled; one for all exclusive buttons
+};
+const Kind kinds[] = {
+    {"Angle", makeControl<Angle>, 1},
+    {"CmdButton", makeControl<CmdButton>, 1},
+    {"Color", makeControl<Color>, 1},
+    {"ColorTransfer", makeControl<ColorTransfer>, 2},
+    {"Distance", makeControl<Distance>, 1},
+    {"Entity", makeControl<Entity>, 2},
+    {"EntityList", makeControl<EntityList>, 3},
+    {"EntityTable", makeControl<EntityTable>, 3},
+    {"PinEntity", makeControl<PinEntity>, 3},
+    {"PinEntityList", makeControl<PinEntityList>, 4},
+    {"Number", makeControl<Number>, 1},
+    {"OptionButtons", makeControl<OptionButtons>, 1},
+    {"OptionCheckBox", makeControl<OptionCheckBox>, 1},
+    {"OptionComboBox", makeControl<OptionComboBox>, 1},
+    {"OptionRadios", makeControl<OptionRadios>, 1},
+    {"Point", makeControl<Point>, 4},
+    {"Slider", makeControl<Slider>, 2},
+    {"String", makeControl<String>, 1},
+    {"Window", makeControl<Window>, 5},
+    {"CheckableTextComboBox", makeControl<CheckableTextComboBox>, 1},
+    {"ColorPicker", makeControl<ColorPicker>, 1},
+    {"LineType", makeControl<LineType>, 1},
+    {"LineWidth", makeControl<LineWidth>, 1},
+    {"MatrixCheckBoxes", makeControl<MatrixCheckBoxes>, 4},
+    {"MatrixPopButtons", makeControl<MatrixPopButtons>, 4},
+    {"MatrixPushButtons", makeControl<MatrixPushButtons>, 4},
+    {"MatrixRadioButtons", makeControl<MatrixRadioButtons>, 1},
+    {"RealNumberSlider", makeControl<RealNumberSlider>, 2},
+    {"SelectList", makeControl<SelectList>, 6},
+};
+
+/// A dialog with a control between two lines, in the tab order that a compiled form sets.
+struct Panel {
+    Panel(QWidget *tried, bool orderedBefore)
+        : control(tried)
+        , first(new QLineEdit)
+        , last(new QLineEdit)
+    {
+        auto *column = new QVBoxLayout(&window);
+        // Made in another order than they are reached.
+        for (QWidget *widget : {static_cast<QWidget *>(last), control, static_cast<QWidget *>(first)})
+            column->addWidget(widget);
+        if (orderedBefore)
+            order();
+        control->setProperty("textList", words("a b c"));
+        window.show();
+        if (!orderedBefore)
+            order();
+        for (auto *button : control->findChildren<QAbstractButton *>())
+            button->setEnabled(true);
+        window.activateWindow();
+    }
+    void order()
+    {
+        QWidget::setTabOrder(first, control);
+        QWidget::setTabOrder(control, last);
+    }
+    /// Where the keyboard is after each press of the key until it leaves the control.
+    QVector<QWidget *> way(Qt::Key key) const
+    {
+        QVector<QWidget *> stops;
+        QTest::keyClick(QApplication::focusWidget(), key);
+        while (control->isAncestorOf(QApplication::focusWidget()) && stops.size() < 20) {
+            stops += QApplication::focusWidget();
+            QTest::keyClick(QApplication::focusWidget(), key);
+        }
+        return stops;
+    }
+
+    QWidget window;
+    QWidget *const control;
+    QLineEdit *const first;
+    QLineEdit *const last;
+};
+
+/// Whether a field is read before another one: above it, or left of it in the same row.
+bool isBefore(const QWidget *control, const QWidget *left, const QWidget *right)
+{
+    const QRect a(left->mapTo(control, QPoint()), left->size());
+    const QRect b(right->mapTo(control, QPoint()), right->size());
+    return a.bottom() < b.top() || (a.top() <= b.bottom() && a.right() < b.left());
+}
+
+} // namespace
+
+/// The way of the keyboard through the controls that have several fields.
+class TestFocus : public QuietTest {
+    Q_OBJECT
+
+private slots:
+    void tabGoesThroughTheFieldsInReadingOrder_data()
+    {
+        QTest::addColumn<int>("row");
+        QTest::addColumn<bool>("orderedBefore");
+        for (int i = 0; i < int(std::size(kinds)); ++i) {
+            QTest::addRow("%s, ordered before its contents come", kinds[i].name) << i << true;
+            QTest::addRow("%s, ordered when it is shown", kinds[i].name) << i << false;
+        }
+    }
+    void tabGoesThroughTheFieldsInReadingOrder()
+    {
+        QFETCH(bool, orderedBefore);
+        const Kind &kind = currentRow(kinds);
+        Panel panel(kind.make(), orderedBefore);
+        QVERIFY(QTest::qWaitForWindowActive(&panel.window));
+        QVERIFY(panel.control->focusPolicy() & Qt::TabFocus);
+        panel.first->setFocus();
+        const QVector<QWidget *> forth = panel.way(Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), panel.last);
+        QCOMPARE(forth.size(), kind.stops);
+        for (int i = 1; i < forth.size(); ++i)
+            QVERIFY2(!isBefore(panel.control, forth.at(i), forth.at(i - 1)), qPrintable(QString::number(i)));
+        QVector<QWidget *> back = panel.way(Qt::Key_Backtab);
+        QCOMPARE(QApplication::focusWidget(), panel.first);
+        std::reverse(back.begin(), back.end());
+        QCOMPARE(back, forth);
+    }
+
+    void labelsBringTheKeyboardToTheFirstField_data() { addRows(kinds); }
+    void labelsBringTheKeyboardToTheFirstField()
+    {
+        Panel panel(currentRow(kinds).make(), true);
+        QLabel label(QStringLiteral("&Field"), &panel.window);
+        label.setBuddy(panel.control);
+        label.show();
+        QVERIFY(QTest::qWaitForWindowActive(&panel.window));
+        panel.first->setFocus();
+        QTest::keyClick(panel.first, Qt::Key_Tab);
+        const QWidget *stop = QApplication::focusWidget();
+        panel.first->setFocus();
+        QTest::keyClick(panel.first, Qt::Key_F, Qt::AltModifier);
+        QCOMPARE(QApplication::focusWidget(), stop);
+        QVERIFY(panel.control->isAncestorOf(stop));
+    }
+
+    void focusComesBackToTheCheckedButton()
+    {
+        auto *options = new OptionRadios;
+        Panel panel(options, true);
+        QVERIFY(QTest::qWaitForWindowActive(&panel.window));
+        options->setCurrentIndex(2);
+        options->setFocus();
+        const auto text = [] {
+            const auto *button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
+            return button ? button->text() : QString();
+        };
+        QCOMPARE(text(), QStringLiteral("c"));
+        options->setTextList(words("a"));
+        options->updateGeomtries();
+        options->setFocus();
+        QCOMPARE(text(), QStringLiteral("a"));
+    }
+};
+
+QTEST_MAIN(TestFocus)
+#include "tst_focus.moc"
