@@ -101,14 +101,14 @@ bool sameValue(const QVariant &left, const QVariant &right)
     return left == right || (left.userType() > QMetaType::User && left.toInt() == right.toInt());
 }
 
-/// The properties that the control has beyond those of Qt's widgets.
+/// The properties that the control has beyond those of Qt's widgets, without those of a current page or item.
 QVector<QMetaProperty> ownProperties(const QWidget *control)
 {
     QVector<QMetaProperty> properties;
     for (int i = 0; i < control->metaObject()->propertyCount(); ++i) {
         const QMetaProperty property = control->metaObject()->property(i);
         if (qstrncmp(property.enclosingMetaObject()->className(), "Vexa::", 6) == 0 && property.isWritable()
-            && property.userType() != QMetaType::QIcon && qstrcmp(property.name(), "currentIndex") != 0)
+            && property.userType() != QMetaType::QIcon && qstrncmp(property.name(), "current", 7) != 0)
             properties += property;
     }
     return properties;
