@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "glyphbutton.h"
 
+#include <QtCore/QEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 
@@ -61,6 +62,14 @@ GlyphButton::GlyphButton(Glyph glyph, const QString &toolTip, QWidget *parent)
 }
 
 QSize GlyphButton::sizeHint() const { return {buttonSize, buttonSize}; }
+
+bool GlyphButton::event(QEvent *event)
+{
+    // It has no other text.
+    if (event->type() == QEvent::ToolTipChange)
+        setAccessibleName(toolTip());
+    return QToolButton::event(event);
+}
 
 void GlyphButton::paintEvent(QPaintEvent *event)
 {

@@ -115,6 +115,7 @@ Point::Point(QWidget *parent)
     m_axes[0]->setPrefix(QStringLiteral("X "));
     m_axes[1]->setPrefix(QStringLiteral("Y "));
     m_axes[2]->setPrefix(QStringLiteral("Z "));
+    setTitle(title()); // with what tells the fields apart
     addPickButton(tr("Pick a point"));
 }
 

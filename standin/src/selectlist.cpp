@@ -57,6 +57,8 @@ SelectList::SelectList(QWidget *parent)
     connect(m_selected, &QListWidget::itemDoubleClicked, m_remove, &QToolButton::click);
     for (QListWidget *list : {m_available, m_selected})
         connect(list, &QListWidget::itemSelectionChanged, this, &SelectList::updateButtons);
+    m_available->setAccessibleName(tr("Available"));
+    m_selected->setAccessibleName(tr("Selected"));
     pointButtons();
     updateButtons();
 }
@@ -66,6 +68,7 @@ QToolButton *SelectList::addButton(QBoxLayout *column, Qt::ArrowType arrow, cons
     auto *button = new QToolButton(this);
     button->setArrowType(arrow);
     button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
     if (column->isEmpty()) {
         column->addStretch(1);
         column->addStretch(1);

@@ -4,7 +4,9 @@
 #include "fieldfocus.h"
 
 #include <QtWidgets/QBoxLayout>
+#include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QToolButton>
 
 namespace Vexa {
 
@@ -32,12 +34,27 @@ void TemplateWidget::setTitle(const QString &title)
 {
     m_caption->setText(title);
     m_caption->setVisible(!title.isEmpty());
+    nameFields();
+}
+
+/// Assistive programs come to a field, not to the row.
+void TemplateWidget::nameFields()
+{
+    for (QObject *child : children()) {
+        auto *field = qobject_cast<QWidget *>(child);
+        if (!field || field->focusPolicy() == Qt::NoFocus || qobject_cast<QToolButton *>(field))
+            continue;
+        const auto *number = qobject_cast<QDoubleSpinBox *>(field);
+        field->setAccessibleName(
+            number ? (title() + QLatin1Char(' ') + number->prefix()).trimmed() : title());
+    }
 }
 
 void TemplateWidget::addField(QWidget *field, int stretch)
 {
     m_fields->addWidget(field, stretch);
     shareFocus(this);
+    nameFields();
 }
 
 } // namespace Vexa

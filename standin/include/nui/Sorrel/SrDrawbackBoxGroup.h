@@ -18,6 +18,7 @@ namespace Vexa {
 /// the page.
 class SORREL_EXPORT DrawbackBox : public QWidget {
     Q_OBJECT
+    Q_PROPERTY(QString shownTitle READ shownTitle DESIGNABLE false STORED false)
     Q_PROPERTY(bool expanded READ isExpanded WRITE setExpanded NOTIFY expandedChanged)
 
 public:

@@ -29,6 +29,8 @@ protected:
     QBoxLayout *fields() const { return m_fields; }
 
 private:
+    void nameFields();
+
     QLabel *m_caption;
     QBoxLayout *m_fields;
 };

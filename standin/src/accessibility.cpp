@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: BSD-3-Clause
+// What assistive programs are told of the controls that are no controls of Qt's with another name.
+#include <QtCore/QVariant>
+#include <QtWidgets/QAccessibleWidget>
+#include <QtWidgets/QWidget>
+
+namespace Vexa {
+
+namespace {
+
+struct ControlRole {
+    const char *className;
+    QAccessible::Role role;
+    const char *nameProperty; ///< null where a control has no text of its own
+};
+// A class stands for those that derive from it, too.
+constexpr ControlRole controlRoles[] = {
+    {"Vexa::TemplateWidget", QAccessible::Grouping, "title"},
+    {"Vexa::AbstractMatrixOptions", QAccessible::Grouping, nullptr},
+    {"Vexa::MatrixPopButtons", QAccessible::ToolBar, nullptr},
+    {"Vexa::CheckableTextComboBox", QAccessible::Grouping, nullptr},
+    {"Vexa::ColorPanel", QAccessible::ColorChooser, nullptr},
+    {"Vexa::ColorPicker", QAccessible::ColorChooser, nullptr},
+    {"Vexa::DrawbackBox", QAccessible::Grouping, "shownTitle"},
+    {"Vexa::DrawbackBoxGroup", QAccessible::Grouping, nullptr},
+    {"Vexa::Form", QAccessible::Form, "windowTitle"},
+    {"Vexa::FormProxy", QAccessible::StaticText, "formName"},
+    {"Vexa::Line", QAccessible::Separator, nullptr},
+    {"Vexa::LineType", QAccessible::Grouping, nullptr},
+    {"Vexa::LineWidth", QAccessible::Grouping, nullptr},
+    {"Vexa::Pane", QAccessible::Grouping, "title"},
+    {"Vexa::RealNumberSlider", QAccessible::Grouping, nullptr},
+    {"Vexa::SelectList", QAccessible::Grouping, nullptr},
+};
+
+class ControlInterface : public QAccessibleWidget {
+public:
+    ControlInterface(QWidget *control, const ControlRole &row)
+        : QAccessibleWidget(control, row.role)
+        , m_nameProperty(row.nameProperty)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString given = QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Name || !given.isEmpty() || !m_nameProperty)
+            return given;
+        return widget()->property(m_nameProperty).toString();
+    }
+
+private:
+    const char *const m_nameProperty;
+};
+
+QAccessibleInterface *makeInterface(const QString &className, QObject *object)
+{
+    if (!object || !object->isWidgetType())
+        return nullptr;
+    for (const ControlRole &row : controlRoles) {
+        if (className == QLatin1String(row.className))
+            return new ControlInterface(static_cast<QWidget *>(object), row);
+    }
+    return nullptr;
+}
+
+/// For as long as the library is loaded.
+const struct Installation {
+    Installation() { QAccessible::installFactory(makeInterface); }
+    ~Installation() { QAccessible::removeFactory(makeInterface); }
+} installation;
+
+} // namespace
+
+} // namespace Vexa
