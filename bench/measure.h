@@ -1,29 +1,35 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <QtCore/QString>
+
 #include <functional>
 
 class QAction;
 class QDialog;
 
 /// Milliseconds of processor time of this thread: what the clock on the wall would tell if nothing else ran
-/// on the machine, since nothing that is measured waits.
+/// on the machine, since nothing that is measured waits. Where instructions are counted, millions of these;
+/// then only the one that was started last can be read.
 class Stopwatch {
 public:
     Stopwatch();
-    double milliseconds() const;
+    double elapsed() const;
 
 private:
     double m_start;
 };
 
-/// Milliseconds until \a work is done and its events too.
+/// The unit of stopwatches.
+QString stopwatchUnit();
+
+/// What a stopwatch tells when \a work is done and its events are, too.
 double timed(const std::function<void()> &work);
 
 /// Megabytes of heap in use.
 double heapInUse();
 
-/// Times of one visit to a contents dialog, in milliseconds.
+/// Times of one visit to a contents dialog, in the unit of stopwatches.
 struct Visit {
     double shown = 0; ///< from the trigger to the end of the first paint of the contents
     double closed = 0; ///< from the press of Ok or Cancel until all is done

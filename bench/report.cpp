@@ -4,6 +4,7 @@
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtCore/QMap>
 
 #include <algorithm>
 #include <cmath>
@@ -46,12 +47,37 @@ QString spread(const Samples &samples)
     return samples.size() < 2 ? QString() : number(*low) + QLatin1String("..") + number(*high);
 }
 
-QString targetText(const Target &target)
+QString targetText(const Target &target) { return target.limit ? QString::number(*target.limit) : QString(); }
+
+/// What another report says of a figure.
+struct Ratio {
+    double median, low, high;
+    std::optional<double> counted;
+};
+using Ratios = QMap<QString, Ratio>; // by section and name
+
+/// The figures of a report as JSON that are compared, all or those of a unit.
+Ratios ratiosOf(const QByteArray &json, const QString &unit = QString())
 {
-    QString text = target.limit ? QString::number(*target.limit) : QString();
-    if (target.stretch)
-        text += QStringLiteral(" (%1)").arg(*target.stretch);
-    return text;
+    Ratios ratios;
+    const QJsonArray figures
+        = QJsonDocument::fromJson(json).object().value(QLatin1String("figures")).toArray();
+    for (const QJsonValue &value : figures) {
+        const auto field = [&value](const char *name) { return value[QLatin1String(name)]; };
+        const bool wanted = unit.isEmpty()
+            || (field("unit").toString() == unit && field("kind").toString() == QLatin1String("ratio"));
+        Samples samples;
+        for (const QJsonValue &sample : field("compared").toArray())
+            samples += sample.toDouble();
+        if (!wanted || samples.isEmpty())
+            continue;
+        const auto [low, high] = std::minmax_element(samples.cbegin(), samples.cend());
+        const QJsonValue counted = field("counted");
+        ratios.insert(field("section").toString() + field("what").toString(),
+            {median(samples), *low, *high,
+                counted.isDouble() ? std::optional(counted.toDouble()) : std::nullopt});
+    }
+    return ratios;
 }
 
 QJsonArray toJson(const Samples &samples)
@@ -63,15 +89,16 @@ QJsonArray toJson(const Samples &samples)
 }
 
 void printRow(const QString &what, const QString &ours, const QString &reference, const QString &compared,
-    const QString &spread, const QString &target, const QString &verdict)
+    const QString &spread, const QString &counted, const QString &target, const QString &verdict)
 {
     std::printf("%s\n",
-        qPrintable(QStringLiteral("%1 %2 %3 %4 %5 %6  %7")
+        qPrintable(QStringLiteral("%1 %2 %3 %4 %5 %6 %7  %8")
                        .arg(what, -46)
                        .arg(ours, 12)
                        .arg(reference, 12)
                        .arg(compared, 8)
                        .arg(spread, 16)
+                       .arg(counted, 8)
                        .arg(target, 12)
                        .arg(verdict)));
 }
@@ -118,16 +145,53 @@ void Report::notMeasured(const QString &what, const QString &reason)
 
 void Report::add(Figure figure)
 {
-    if (figure.verdict.isEmpty() && figure.compared.isEmpty()) {
-        figure.verdict = QStringLiteral("not measured: no sample");
-    } else if (figure.verdict.isEmpty() && figure.target.limit) {
-        const double compared = median(figure.compared);
-        const bool stretched = figure.target.stretch && compared <= *figure.target.stretch;
-        figure.verdict = stretched             ? QStringLiteral("met, stretch too")
-            : compared <= *figure.target.limit ? QStringLiteral("met")
-                                               : QStringLiteral("MISSED");
-    }
+    if (figure.verdict.isEmpty())
+        judge(figure);
     m_figures += figure;
+}
+
+void Report::judge(Figure &figure)
+{
+    if (figure.compared.isEmpty() && !figure.counted) {
+        figure.verdict = QStringLiteral("not measured: no sample");
+    } else if (figure.target.limit) {
+        const double compared = figure.counted.value_or(median(figure.compared));
+        figure.verdict = compared <= *figure.target.limit ? QStringLiteral("met") : QStringLiteral("MISSED");
+    }
+}
+
+void Report::decideBy(const QByteArray &counts)
+{
+    const Ratios ratios = ratiosOf(counts, QStringLiteral("M"));
+    for (Figure &figure : m_figures) {
+        const auto counted = ratios.constFind(figure.section + figure.what);
+        if (counted == ratios.cend())
+            continue;
+        figure.counted = counted->median;
+        judge(figure);
+    }
+}
+
+QStringList Report::movedSince(const QByteArray &earlier) const
+{
+    // Counts of the same code differ by addresses and by timers; times by as much as their rounds.
+    constexpr double countNoise = 0.03;
+    const Ratios before = ratiosOf(earlier);
+    QStringList moved;
+    for (const Figure &figure : m_figures) {
+        const auto old = before.constFind(figure.section + figure.what);
+        if (old == before.cend() || figure.compared.isEmpty())
+            continue;
+        const bool byCount = figure.counted && old->counted;
+        const double was = byCount ? *old->counted : old->median;
+        const double is = byCount ? *figure.counted : median(figure.compared);
+        const auto [low, high] = std::minmax_element(figure.compared.cbegin(), figure.compared.cend());
+        if (byCount ? std::abs(is - was) > countNoise * was : *low > old->high || *high < old->low)
+            moved += QStringLiteral("%1: %2: %3 -> %4%5")
+                         .arg(figure.section, figure.what, number(was), number(is),
+                             byCount ? QStringLiteral(" (instructions)") : QString());
+    }
+    return moved;
 }
 
 void Report::print() const
@@ -139,7 +203,8 @@ void Report::print() const
             section = figure.section;
             std::printf("\n");
             printRow(section, QStringLiteral("ours"), QStringLiteral("reference"), QStringLiteral("compared"),
-                QStringLiteral("spread"), QStringLiteral("target"), QStringLiteral("verdict"));
+                QStringLiteral("spread"), QStringLiteral("instr."), QStringLiteral("target"),
+                QStringLiteral("verdict"));
         }
         const QString sign = figure.kind == QLatin1String("difference") && median(figure.compared) >= 0
             ? QStringLiteral("+")
@@ -149,16 +214,20 @@ void Report::print() const
             figure.compared.isEmpty() || figure.kind == QLatin1String("value")
                 ? QString()
                 : sign + number(median(figure.compared)),
-            figure.compared.isEmpty() ? QString() : spread(figure.compared), targetText(figure.target),
-            figure.verdict);
+            figure.compared.isEmpty() ? QString() : spread(figure.compared),
+            figure.counted ? number(*figure.counted) : QString(), targetText(figure.target), figure.verdict);
         met += figure.verdict.startsWith(QLatin1String("met"));
         missed += figure.verdict == QLatin1String("MISSED");
         unmeasured += figure.verdict.startsWith(QLatin1String("not measured"));
     }
+    for (const QString &note : m_notes)
+        std::printf("\n%s", qPrintable(note));
     std::printf("\n%d targets met, %d missed, %d figures not measured.\n", met, missed, unmeasured);
     std::printf(
         "ours and reference: medians; compared: median of ratio or difference (+/-) per round; spread: "
-        "its lowest and highest;\ntarget: at most this, in brackets the stretch target.\n");
+        "its lowest and highest;\ninstr.: the ratio of instructions, which decides where it is known; "
+        "target: at most "
+        "this.\n");
 }
 
 QByteArray Report::toJson() const
@@ -175,8 +244,8 @@ QByteArray Report::toJson() const
             object.insert(QStringLiteral("median"), median(figure.compared));
         if (figure.target.limit)
             object.insert(QStringLiteral("target"), *figure.target.limit);
-        if (figure.target.stretch)
-            object.insert(QStringLiteral("stretch"), *figure.target.stretch);
+        if (figure.counted)
+            object.insert(QStringLiteral("counted"), *figure.counted);
         figures.append(object);
     }
     return QJsonDocument(QJsonObject{{QStringLiteral("figures"), figures}}).toJson();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <QtCore/QVector>
 
 #include <optional>
@@ -12,7 +12,6 @@ using Samples = QVector<double>;
 /// What a figure is held against; none for a figure that is only told.
 struct Target {
     std::optional<double> limit = std::nullopt;
-    std::optional<double> stretch = std::nullopt;
 };
 
 /// Collects the figures and writes them as a table and as JSON.
@@ -33,6 +32,15 @@ public:
     void check(const QString &what, bool holds);
     void notMeasured(const QString &what, const QString &reason);
 
+    /// Takes over the ratios of the same figures from another report, which counted instructions: these
+    /// decide then.
+    void decideBy(const QByteArray &counts);
+    /// Something to know about the figures.
+    void note(const QString &text) { m_notes += text; }
+
+    /// The figures of an earlier report, as JSON, that differ from these by more than the noise, one a line.
+    QStringList movedSince(const QByteArray &earlier) const;
+
     /// Also tells how many targets are met and missed.
     void print() const;
     QByteArray toJson() const;
@@ -48,9 +56,12 @@ private:
         Samples compared;
         Target target;
         QString verdict;
+        std::optional<double> counted = std::nullopt; // the ratio of instructions
     };
     void add(Figure figure);
+    static void judge(Figure &figure);
 
     QString m_section;
     QVector<Figure> m_figures;
+    QStringList m_notes;
 };

@@ -1,8 +1,23 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "contentstaskmenu.h"
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QUndoStack>
+
+namespace {
+
+/// Keeps from the control it watches, and so from its children, that a modal dialog comes and goes. On a form
+/// they take no input anyway, and there may be ten thousand of them to tell.
+class ModalityFilter final : public QObject {
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        return event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked;
+    }
+};
+
+} // namespace
 
 ContentsTaskMenu::ContentsTaskMenu(const char *actionText, QWidget *control, QObject *parent)
     : QObject(parent)
@@ -33,6 +48,8 @@ bool ContentsTaskMenu::run(QDialog *dialog)
     const bool managed = m_formWindow->isManaged(m_control);
     const QPointer<ContentsTaskMenu> self = this;
     const QPointer<QDialog> running = dialog;
+    ModalityFilter filter; // goes with this call, whatever becomes of the control
+    m_control->installEventFilter(&filter);
     const bool accepted = dialog->exec() == QDialog::Accepted;
     if (!accepted || !self || !running || !m_formWindow || !m_control)
         return false;

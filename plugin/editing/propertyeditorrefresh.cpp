@@ -6,8 +6,41 @@
 #include <QtDesigner/QDesignerPropertySheetExtension>
 #include <QtDesigner/QExtensionManager>
 
+#include <QtCore/QPointer>
 #include <QtCore/QVariant>
-#include <QtWidgets/QWidget>
+#include <QtCore/QVector>
+#include <QtWidgets/QTreeView>
+
+namespace {
+
+/// Has the list of the property editor not measure the rows whose values change, as it does several times for
+/// each of them, however long a text is. It measures what it shows when it paints.
+class UnmeasuredRows {
+public:
+    explicit UnmeasuredRows(const QDesignerPropertyEditorInterface *editor)
+    {
+        const auto views = editor->findChildren<QTreeView *>();
+        for (QTreeView *view : views) {
+            if (view->uniformRowHeights())
+                continue;
+            view->setUniformRowHeights(true);
+            m_views += view;
+        }
+    }
+    ~UnmeasuredRows()
+    {
+        for (const QPointer<QTreeView> &view : qAsConst(m_views)) {
+            if (view)
+                view->setUniformRowHeights(false);
+        }
+    }
+    Q_DISABLE_COPY(UnmeasuredRows)
+
+private:
+    QVector<QPointer<QTreeView>> m_views;
+};
+
+} // namespace
 
 void refreshPropertyEditor(QDesignerFormEditorInterface *core, const QWidget *control)
 {
@@ -16,8 +49,10 @@ void refreshPropertyEditor(QDesignerFormEditorInterface *core, const QWidget *co
     const QObject *object = shown;
     while (object && object != control)
         object = object->parent();
-    if (object)
+    if (object) {
+        const UnmeasuredRows unmeasured(editor);
         editor->setObject(shown);
+    }
 }
 
 void refreshPropertyEditor(

@@ -18,6 +18,17 @@
 
 #include <functional>
 
+/// Counts how often the objects it watches are told that a modal dialog came or went.
+class ModalityCounter final : public QObject {
+public:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked;
+        return false;
+    }
+    int count = 0;
+};
+
 /// Base of the tests that edit contents in the dialogs of the task menus.
 class EditingTest : public HostTest {
     Q_OBJECT

@@ -347,6 +347,34 @@ private slots:
         QCOMPARE(matrix->property("iconList").toStringList(), QStringList{pipe});
     }
 
+    /// Thousands of them take longer to tell than the dialog takes to open.
+    void buttonsAreNotToldOfTheDialog()
+    {
+        FormWindow *form = newForm();
+        QWidget *matrix = drop(form, kinds[0], 2, 2, "a,b,c,d");
+        QCoreApplication::processEvents();
+        QWidget *other = HostTest::drop(form, "CmdButton", QPoint(200, 200));
+        ModalityCounter buttons, others;
+        const auto children = matrix->findChildren<QWidget *>();
+        QVERIFY(children.size() >= 4);
+        for (QWidget *child : children)
+            child->installEventFilter(&buttons);
+        QVERIFY(other);
+        other->installEventFilter(&others);
+        QVERIFY(edit(form, matrix, [](QDialog *dialog) { press(dialog, "okButton"); }));
+        QCOMPARE(buttons.count, 0);
+        QCOMPARE(others.count, 2);
+
+        // Another's dialog is none of ours.
+        QVERIFY(withDialogs(
+            [form] {
+                QDialog dialog(form);
+                dialog.exec();
+            },
+            [](QDialog *dialog) { dialog->reject(); }));
+        QCOMPARE(buttons.count, 2 * children.size());
+    }
+
     void typingTheSameTextAgainIsNoChange()
     {
         FormWindow *form = newForm();
