@@ -24,6 +24,7 @@
 #include <QtCore/QVector>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QTreeView>
 #include <QtWidgets/QVBoxLayout>
 #include <QtWidgets/QWidget>
 
@@ -269,4 +270,12 @@ QAction *DesignerHost::menuAction(FormWindowBase *form, QWidget *widget, const Q
 QDesignerPropertySheetExtension *DesignerHost::propertySheet(QObject *object) const
 {
     return qt_extension<QDesignerPropertySheetExtension *>(d->core->extensionManager(), object);
+}
+
+QModelIndex DesignerHost::valueCell(const QString &property) const
+{
+    const QAbstractItemModel *model = d->core->propertyEditor()->findChild<QTreeView *>()->model();
+    const QModelIndexList names = model->match(model->index(0, 0), Qt::DisplayRole, property, 1,
+        Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive);
+    return names.isEmpty() ? QModelIndex() : names.first().sibling(names.first().row(), 1);
 }

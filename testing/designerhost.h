@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include <QtCore/QModelIndex>
 #include <QtCore/QPoint>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
@@ -58,6 +59,9 @@ public:
     QMenu *contextMenu(qdesigner_internal::FormWindowBase *form, QWidget *widget);
 
     QDesignerPropertySheetExtension *propertySheet(QObject *object) const;
+    /// The cell of the property editor with the value of a property of what is selected; invalid where it has
+    /// no such row.
+    QModelIndex valueCell(const QString &property) const;
 
 private:
     struct Private;

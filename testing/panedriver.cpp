@@ -24,6 +24,17 @@ QStringList PaneDriver::names(const QString &path) const
     return names;
 }
 
+QStringList PaneDriver::paths() const
+{
+    QStringList paths;
+    for (const QString &row : names()) {
+        paths += row;
+        for (const QString &part : names(row))
+            paths += row + QLatin1Char('/') + part;
+    }
+    return paths;
+}
+
 QModelIndex PaneDriver::value(const QString &path) const
 {
     QModelIndex found;
@@ -88,17 +99,23 @@ bool PaneDriver::pastePath(const QString &path, const QString &file)
     return trigger(path, "Paste Path");
 }
 
-bool PaneDriver::trigger(const QString &path, const char *text)
+QAction *PaneDriver::action(const QString &path, const char *text) const
 {
     const QWidget *widget = editor(path);
     const auto actions = widget ? widget->findChildren<QAction *>() : QList<QAction *>();
     for (QAction *action : actions) {
-        if (action->text() == QLatin1String(text)) {
-            action->trigger();
-            return true;
-        }
+        if (action->text() == QLatin1String(text))
+            return action;
     }
-    return false;
+    return nullptr;
+}
+
+bool PaneDriver::trigger(const QString &path, const char *text)
+{
+    QAction *found = action(path, text);
+    if (found)
+        found->trigger();
+    return found;
 }
 
 void PaneDriver::reset(const QString &path)

@@ -4,6 +4,7 @@
 #include <QtCore/QModelIndex>
 #include <QtCore/QStringList>
 
+class QAction;
 class QLineEdit;
 class QToolButton;
 class QTreeView;
@@ -18,6 +19,8 @@ public:
     QTreeView *tree() const { return m_tree; }
     /// The names of the rows, or of the sub rows of a row.
     QStringList names(const QString &path = QString()) const;
+    /// The paths of all rows, sub rows included.
+    QStringList paths() const;
     /// The value cell of a row, invalid if there is none.
     QModelIndex value(const QString &path) const;
     QString valueText(const QString &path) const;
@@ -34,7 +37,9 @@ public:
     bool paste(const QString &path, const QString &text);
     /// Gives an icon or one of its states the path of a file.
     bool pastePath(const QString &path, const QString &file);
-    /// Triggers the action with this text in the editor that is open on a row; false where there is none.
+    /// The action with this text in the editor that is open on a row; null where there is none.
+    QAction *action(const QString &path, const char *text) const;
+    /// Triggers it; false where there is none.
     bool trigger(const QString &path, const char *text);
     /// Opens a row's editor and clicks its reset button.
     void reset(const QString &path);

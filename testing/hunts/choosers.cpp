@@ -13,12 +13,9 @@
 #include <QtWidgets/QTextEdit>
 #include <QtWidgets/QTreeWidget>
 
-#include <algorithm>
-#include <iterator>
+#include <utility>
 
 namespace {
-
-int &countOf(ChooserCounts *counts, Chooser kind) { return (*counts)[std::size_t(kind)]; }
 
 template <class Edit>
 void type(Edit *edit, Random &random)
@@ -47,13 +44,6 @@ void pickResource(QDialog *dialog, Random &random)
 }
 
 } // namespace
-
-ChooserCounts &operator+=(ChooserCounts &counts, const ChooserCounts &more)
-{
-    for (std::size_t i = 0; i < counts.size(); ++i)
-        counts[i] += more[i];
-    return counts;
-}
 
 /// Gives the files prepared for it, one for each time it is asked, and then none.
 class Choosers::FileAnswers : public qdesigner_internal::DialogGui {
@@ -85,7 +75,7 @@ Choosers::Choosers(QDesignerFormEditorInterface *core, const QString &picture)
     core->setDialogGui(m_files);
 }
 
-bool Choosers::run(const std::function<void()> &opener, Random &random, ChooserCounts *counts)
+bool Choosers::run(const std::function<void()> &opener, Random &random, Counts *counts)
 {
     const QString noPicture = QStringLiteral("/no/such/picture.png");
     const QStringList answers[] = {{}, {m_picture}, {m_picture}, {noPicture}, {noPicture, m_picture}};
@@ -93,24 +83,24 @@ bool Choosers::run(const std::function<void()> &opener, Random &random, ChooserC
     // A picture that was prepared and asked for.
     bool chosen = m_files->answers.contains(m_picture);
     withDialogs(opener, [&](QDialog *dialog) { chosen = use(dialog, random, counts); });
-    countOf(counts, Chooser::File) += m_files->asked > 0;
-    m_files->asked = 0;
+    if (std::exchange(m_files->asked, 0))
+        ++(*counts)[QStringLiteral("file chooser")];
     return chosen;
 }
 
-bool Choosers::use(QDialog *dialog, Random &random, ChooserCounts *counts)
+bool Choosers::use(QDialog *dialog, Random &random, Counts *counts)
 {
     if (dialog->inherits("qdesigner_internal::PlainTextEditorDialog")) {
-        ++countOf(counts, Chooser::PlainText);
+        ++(*counts)[QStringLiteral("text chooser")];
         type(dialog->findChild<QPlainTextEdit *>(), random);
     } else if (dialog->inherits("qdesigner_internal::RichTextEditorDialog")) {
-        ++countOf(counts, Chooser::RichText);
+        ++(*counts)[QStringLiteral("rich text chooser")];
         type(dialog->findChild<QTextEdit *>(), random);
     } else if (dialog->inherits("QtResourceViewDialog")) {
-        ++countOf(counts, Chooser::Resource);
+        ++(*counts)[QStringLiteral("resource chooser")];
         pickResource(dialog, random);
     } else if (dialog->inherits("qdesigner_internal::IconThemeDialog")) {
-        ++countOf(counts, Chooser::Theme);
+        ++(*counts)[QStringLiteral("theme chooser")];
         static const QString themes[]
             = {QString(), QStringLiteral("document-open"), QStringLiteral("no-such-icon")};
         if (auto *line = dialog->findChild<QLineEdit *>())

@@ -55,7 +55,7 @@ void Monkey::editContents(Random &random)
     auto *menu = qt_extension<QDesignerTaskMenuExtension *>(m_host.core()->extensionManager(), control);
     if (!menu || !menu->preferredEditAction())
         return finding(QStringLiteral("no task menu for ") + control->objectName());
-    EditCounts &counts = m_tally.of(control);
+    Counts &counts = m_tally.dialogsOf(control);
     const Entries entriesBefore = entriesOf(control);
     const FormState before = state(growingWidgets());
     const int indexBefore = history()->index();
@@ -69,22 +69,16 @@ void Monkey::editContents(Random &random)
             if (entriesIn(dialog) != entriesBefore)
                 finding(QStringLiteral("the dialog of %1 shows '%2' for '%3'")
                             .arg(control->objectName(), toText(entriesIn(dialog)), toText(entriesBefore)));
-            DialogHand hand(random, m_choosers);
+            DialogHand hand(random, m_choosers, &counts);
             hand.use(dialog, random.below(12));
-            counts.choosers += hand.chooserCounts();
-            counts.keys += hand.keyCounts();
-            if (!hand.finding().isEmpty())
-                finding(hand.finding());
-            ok = !random.oneIn(4);
             accepted = entriesIn(dialog);
-            if (!closeDialog(dialog, ok))
-                finding(QStringLiteral("the dialog of %1 does not close").arg(control->objectName()));
+            ok = hand.close(dialog);
+            if (!hand.finding().isEmpty())
+                finding(QStringLiteral("%1: %2").arg(control->objectName(), hand.finding()));
         });
-    ++m_done["editContents"];
+    did("editContents");
     if (!opened)
         return finding(QStringLiteral("no dialog opens for ") + control->objectName());
-    ++counts.opened;
-    counts.cancelled += !ok;
     if (!ok) {
         if (history()->index() != indexBefore)
             finding(QStringLiteral("a cancelled dialog of %1 makes a step").arg(control->objectName()));
@@ -93,7 +87,7 @@ void Monkey::editContents(Random &random)
     checkAccepted(control, accepted);
     if (history()->index() == indexBefore)
         return;
-    ++counts.changed;
+    ++counts[QStringLiteral("changed")];
     checkEdit(control, before, indexBefore);
 }
 
@@ -108,7 +102,7 @@ void Monkey::editAndLose(Random &random)
     const int way = random.below(3);
     withDialogs([menu] { menu->preferredEditAction()->trigger(); },
         [&](QDialog *dialog) {
-            DialogHand(random, m_choosers).use(dialog, 6);
+            DialogHand(random, m_choosers, &m_tally.actions()).use(dialog, 6);
             if (way == 0) {
                 m_host.closeForm(m_form);
             } else if (way == 1) {
@@ -123,6 +117,6 @@ void Monkey::editAndLose(Random &random)
             if (QDialog *open = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
                 open->accept();
         });
-    ++m_done["editAndLose"];
+    did("editAndLose");
     openFresh();
 }

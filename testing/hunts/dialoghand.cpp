@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "dialoghand.h"
+#include "dialogkeys.h"
+#include "dialogs.h"
 #include "panehand.h"
 
 #include <QtCore/QPointer>
@@ -22,16 +24,25 @@ void DialogHand::use(QDialog *dialog, int operations)
     }
 }
 
+bool DialogHand::close(QDialog *dialog)
+{
+    const bool ok = !m_random.oneIn(5);
+    ++(*m_counts)[ok ? QStringLiteral("accepted") : QStringLiteral("cancelled")];
+    if (!closeDialog(dialog, ok) && m_finding.isEmpty())
+        m_finding = QStringLiteral("a dialog does not close");
+    return ok;
+}
+
 void DialogHand::once(QDialog *dialog)
 {
     auto *pane = dialog->findChild<QTreeView *>();
     const bool paneShown = pane && pane->isVisible();
     if (paneShown && m_random.oneIn(2))
-        m_finding = usePane(pane, m_random, m_choosers, &m_chooserCounts);
+        m_finding = usePane(dialog, m_random, m_choosers, m_counts);
     else if (m_random.oneIn(paneShown ? 12 : 2))
         press(dialog, "showPropertiesButton");
     else if (m_random.oneIn(3))
-        pressKey(dialog, m_random, &m_keyCounts);
+        pressKey(dialog, m_random, m_counts);
     else if (dialog->findChild<QTableWidget *>())
         useTable(dialog);
     else

@@ -2,28 +2,28 @@
 #pragma once
 
 #include "choosers.h"
-#include "dialogkeys.h"
 
 class QDialog;
 
 /// Uses an open contents dialog as a user without a plan would.
 class DialogHand {
 public:
-    DialogHand(Random &random, Choosers &choosers)
+    /// \a counts: where it says what it does.
+    DialogHand(Random &random, Choosers &choosers, Counts *counts)
         : m_random(random)
         , m_choosers(choosers)
+        , m_counts(counts)
     {
     }
 
     /// A number of random operations; leaves the dialog open unless it went by itself.
     void use(QDialog *dialog, int operations);
 
+    /// Closes it with Ok or Cancel. Gives whether with Ok.
+    bool close(QDialog *dialog);
+
     /// What went wrong, empty where nothing did.
     const QString &finding() const { return m_finding; }
-    /// The choosers that came up meanwhile.
-    const ChooserCounts &chooserCounts() const { return m_chooserCounts; }
-    /// The keys that were pressed in lists and grids.
-    const KeyCounts &keyCounts() const { return m_keyCounts; }
 
 private:
     void once(QDialog *dialog);
@@ -34,6 +34,5 @@ private:
     Random &m_random;
     Choosers &m_choosers;
     QString m_finding;
-    ChooserCounts m_chooserCounts{};
-    KeyCounts m_keyCounts{};
+    Counts *const m_counts;
 };

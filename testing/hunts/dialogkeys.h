@@ -2,24 +2,9 @@
 #pragma once
 
 #include "random.h"
-
-#include <array>
+#include "tally.h"
 
 class QDialog;
 
-/// The keys of lists and grids in contents dialogs.
-constexpr std::array<const char *, 13> keyNames{"new", "delete", "up", "down", "duplicate", "select all",
-    "cut", "copy", "paste", "paste text", "find", "undo", "redo"};
-
-/// How often each was pressed while a list or a grid had the focus.
-using KeyCounts = std::array<int, keyNames.size()>;
-
-inline KeyCounts &operator+=(KeyCounts &counts, const KeyCounts &more)
-{
-    for (std::size_t i = 0; i < counts.size(); ++i)
-        counts[i] += more[i];
-    return counts;
-}
-
-/// Presses one of them in the list or grid of an open dialog.
-void pressKey(QDialog *dialog, Random &random, KeyCounts *counts);
+/// Presses a key of lists and grids in an open dialog, and counts it where it arrives.
+void pressKey(QDialog *dialog, Random &random, Counts *counts);

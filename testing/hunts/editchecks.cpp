@@ -3,7 +3,6 @@
 #include "dialogs.h"
 #include "formtext.h"
 #include "monkey.h"
-#include "propertyeditorrows.h"
 
 #include <sorrel/SrDrawbackBoxGroup.h>
 
@@ -99,35 +98,35 @@ void Monkey::checkPropertyEditor(QWidget *control, const QString &when)
         return finding(QStringLiteral("the property editor shows '%1' in the place of %2 %3")
                            .arg(editor->object() ? editor->object()->objectName() : QString(),
                                control->objectName(), when));
-    const QMap<QString, QString> rows = propertyEditorRows(editor);
     const QStringList names = contentsProperties(control);
     for (const QString &name : names) {
         const QVariant value = control->property(name.toLatin1());
         const QString expected = value.type() == QVariant::StringList
             ? value.toStringList().join(QLatin1String("; "))
             : value.toString();
-        if (rows.value(name) == expected)
+        const QString shown = m_host.valueCell(name).data().toString();
+        if (shown == expected)
             continue;
         // The form editor prints some values with what it knows of a row that is gone. What it would show of
         // the control now counts.
         editor->setObject(control);
-        if (propertyEditorRows(editor).value(name) == rows.value(name))
+        if (m_host.valueCell(name).data().toString() == shown)
             continue;
         finding(QStringLiteral("the property editor shows '%1' for %2 of %3, which is '%4', %5")
-                    .arg(rows.value(name), name, control->objectName(), expected, when));
+                    .arg(shown, name, control->objectName(), expected, when));
     }
 }
 
 void Monkey::undo()
 {
     walk(history()->index() - 1, true);
-    ++m_done["undo"];
+    did("undo");
 }
 
 void Monkey::redo()
 {
     walk(history()->index(), false);
-    ++m_done["redo"];
+    did("redo");
 }
 
 void Monkey::walk(int step, bool back)

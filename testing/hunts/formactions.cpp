@@ -18,14 +18,14 @@ void Monkey::switchResources(Random &random)
         if (random.oneIn(2))
             paths += m_folder.filePath(QLatin1String(name));
     }
-    ++m_done["switchResources"];
+    did("switchResources");
     m_form->resourceSet()->activateResourceFilePaths(paths);
 }
 
 void Monkey::preview(Random &random)
 {
     auto *manager = m_host.core()->formWindowManager();
-    ++m_done["preview"];
+    did("preview");
     if (random.oneIn(2)) {
         manager->createPreviewPixmap();
         return;
@@ -56,7 +56,7 @@ void Monkey::saveAndReload(Random &)
     device.open(QIODevice::ReadOnly);
     if (!m_form->setContents(&device))
         return finding(QStringLiteral("the saved form does not open"));
-    ++m_done["saveAndReload"];
+    did("saveAndReload");
     settle();
     compareSaved(QString::fromUtf8(xml), DesignerHost::save(m_form));
     forgetHistory();
@@ -65,7 +65,7 @@ void Monkey::saveAndReload(Random &)
 
 void Monkey::switchForm(Random &)
 {
-    ++m_done["switchForm"];
+    did("switchForm");
     if (!m_other)
         m_other = newForm();
     settle();
@@ -78,6 +78,6 @@ void Monkey::switchForm(Random &)
 
 void Monkey::closeForm(Random &)
 {
-    ++m_done["closeForm"];
+    did("closeForm");
     openFresh();
 }

@@ -71,8 +71,7 @@ public:
         if (file.open(QIODevice::WriteOnly))
             file.write(text.toUtf8());
         file.close();
-        m_opened += tryText(text, number);
-        ++m_tried;
+        ++m_tally.actions()[tryText(text, number) ? QStringLiteral("opened") : QStringLiteral("refused")];
         file.remove();
     }
     bool replay(const QByteArray &text, int number) override
@@ -81,11 +80,7 @@ public:
                                                      : QStringLiteral("It is refused."));
         return true;
     }
-    const EditTally &tally() const override { return m_tally; }
-    QString statistics() const override
-    {
-        return QStringLiteral("  %1 of %2 forms opened\n").arg(m_opened).arg(m_tried);
-    }
+    const Tally &tally() const override { return m_tally; }
 
 private:
     /// Gives whether the form opened.
@@ -97,9 +92,7 @@ private:
     DesignerHost m_host{{QStringLiteral(PLUGIN_ROOT)}};
     Choosers m_choosers{m_host.core(), QStringLiteral(EXAMPLES "/../icons/hole.png")};
     const Mutator m_mutator{startingForms() + defaultForms(m_host)};
-    EditTally m_tally;
-    int m_tried = 0;
-    int m_opened = 0;
+    Tally m_tally;
 };
 
 bool HostileHunter::tryText(const QString &text, int number)
@@ -142,24 +135,17 @@ void HostileHunter::edit(FormWindow *form, QWidget *control, Random &random)
     auto *menu = qt_extension<QDesignerTaskMenuExtension *>(m_host.core()->extensionManager(), control);
     if (!menu || !menu->preferredEditAction())
         return;
-    EditCounts &counts = m_tally.of(control);
-    const QString dialogOwner = QLatin1String(control->metaObject()->className());
+    Counts &counts = m_tally.dialogsOf(control);
     const int indexBefore = form->commandHistory()->index();
     withDialogs([menu] { menu->preferredEditAction()->trigger(); },
         [&](QDialog *dialog) {
-            ++counts.opened;
-            DialogHand hand(random, m_choosers);
+            DialogHand hand(random, m_choosers, &counts);
             hand.use(dialog, random.below(6));
-            counts.choosers += hand.chooserCounts();
-            counts.keys += hand.keyCounts();
+            hand.close(dialog);
             if (!hand.finding().isEmpty())
                 endWithFinding(hand.finding());
-            const bool ok = !random.oneIn(6);
-            counts.cancelled += !ok;
-            if (!closeDialog(dialog, ok))
-                endWithFinding(QStringLiteral("the dialog of %1 does not close").arg(dialogOwner));
         });
-    counts.changed += form->commandHistory()->index() != indexBefore;
+    counts[QStringLiteral("changed")] += form->commandHistory()->index() != indexBefore;
 }
 
 bool reportForm(const Hunt &, const Failure &failure, const HuntOptions &)

@@ -20,8 +20,6 @@ QStringList formArguments(int first, int forms)
 ChildResult runHunter(const Hunt &hunt, const HuntOptions &options, const QStringList &arguments)
 {
     QStringList all{QLatin1String(hunt.word), QStringLiteral("--child")};
-    if (options.statistics)
-        all += QStringLiteral("--statistics");
     if (options.withoutControls)
         all += QStringLiteral("--without-controls");
     return runChild(all + arguments);
@@ -40,8 +38,6 @@ void work(Hunter *hunter, const HuntOptions &options)
         hunter->tryForm(form);
     }
     reportProgress(QByteArray::number(end), hunter->tally().toText());
-    if (options.statistics)
-        say(hunter->statistics() + hunter->tally().table());
 }
 
 bool runHunt(const Hunt &hunt, const HuntOptions &options)
@@ -53,11 +49,11 @@ bool runHunt(const Hunt &hunt, const HuntOptions &options)
     int form = options.first;
     int failures = 0;
     int designersOwn = 0;
-    EditTally tally;
+    Tally tally;
     while (form < end && failures < (options.quick ? 1 : mostFindings) && minutes() < options.minutes) {
         const int share = qMin(end - form, hunt.formsPerProcess);
         const ChildResult result = runHunter(hunt, options, formArguments(form, share));
-        tally += EditTally::fromText(result.counts);
+        tally += Tally::fromText(result.counts);
         if (result.ok) {
             form += share;
         } else {
@@ -68,8 +64,7 @@ bool runHunt(const Hunt &hunt, const HuntOptions &options)
         }
         say(QStringLiteral("%1 forms in %2 min").arg(form - options.first).arg(minutes(), 0, 'f', 1));
     }
-    if (!options.withoutControls)
-        say(tally.table());
+    say(tally.table());
     const bool isLong = form - options.first >= hunt.formsForEverything && !options.withoutControls;
     const QStringList omissions = isLong ? tally.omissions() : QStringList();
     for (const QString &omission : omissions)

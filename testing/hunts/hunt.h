@@ -2,7 +2,7 @@
 #pragma once
 
 #include "child.h"
-#include "editcounts.h"
+#include "tally.h"
 
 #include <QtCore/QStringList>
 
@@ -16,8 +16,6 @@ struct HuntOptions {
     double minutes = std::numeric_limits<double>::infinity();
     /// Stop at the first finding, and leave what led to it as it is.
     bool quick = false;
-    /// Say how often each action did something.
-    bool statistics = false;
     /// Drop Designer's own widgets in the place of the controls.
     bool withoutControls = false;
 };
@@ -31,9 +29,7 @@ public:
     virtual void tryForm(int number) = 0;
     /// Does what led to a finding again, from the contents of its file; false where that is nothing of ours.
     virtual bool replay(const QByteArray &text, int number) = 0;
-    virtual const EditTally &tally() const = 0;
-    /// A line per kind of action.
-    virtual QString statistics() const { return {}; }
+    virtual const Tally &tally() const = 0;
 };
 
 /// Where a child ended before it was through.

@@ -39,7 +39,6 @@ void addOptions(QCommandLineParser *parser)
         {QStringLiteral("without-controls"),
             QStringLiteral("Drop Designer's own widgets in the place of the controls (monkey): what is found "
                            "is Designer's.")},
-        {QStringLiteral("statistics"), QStringLiteral("Say how often each action did something.")},
         {QStringLiteral("child"), QStringLiteral("Do the work in this process.")},
     });
 }
@@ -89,7 +88,6 @@ int main(int argc, char *argv[])
     if (!firstIsNumber || !formsIsNumber || !minutesIsNumber || options.first < 0 || options.forms < 1)
         return complain(QStringLiteral("--first, --forms and --minutes take numbers"));
     options.quick = parser.isSet(QStringLiteral("quick"));
-    options.statistics = parser.isSet(QStringLiteral("statistics"));
     options.withoutControls = parser.isSet(QStringLiteral("without-controls"));
     const QString file = parser.value(QStringLiteral("replay"));
     if (!parser.isSet(QStringLiteral("child"))) {

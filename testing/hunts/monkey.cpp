@@ -155,14 +155,6 @@ QString Monkey::end()
     return m_finding;
 }
 
-QString Monkey::statistics() const
-{
-    QString lines;
-    for (auto it = m_done.cbegin(); it != m_done.cend(); ++it)
-        lines += QStringLiteral("  %1 %2\n").arg(QString::fromUtf8(it.key()), -16).arg(it.value());
-    return lines;
-}
-
 void Monkey::openFresh()
 {
     if (m_form)

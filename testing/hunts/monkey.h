@@ -2,11 +2,12 @@
 #pragma once
 
 #include "choosers.h"
+#include "contents.h"
 #include "designerhost.h"
-#include "editcounts.h"
 #include "logwatch.h"
 #include "random.h"
 #include "steps.h"
+#include "tally.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QPointer>
@@ -36,10 +37,7 @@ public:
     /// Closes all forms with everything that lives on them.
     QString end();
 
-    /// How often each action did something, a line per action.
-    QString statistics() const;
-    /// What it did in the contents dialogs.
-    const EditTally &tally() const { return m_tally; }
+    const Tally &tally() const { return m_tally; }
 
 private:
     using FormWindow = qdesigner_internal::FormWindowBase;
@@ -110,6 +108,8 @@ private:
     /// The current pages of the groups, which are saved only where a property was set.
     QString pages() const;
     void finding(const QString &text);
+    /// Counts an action that did something.
+    void did(const char *action) { ++m_tally.actions()[QLatin1String(action)]; }
 
     void undo();
     void redo();
@@ -145,6 +145,5 @@ private:
     std::optional<Edit> m_newEdit;
     QString m_finding;
     bool m_walked = false;
-    QMap<QByteArray, int> m_done;
-    EditTally m_tally;
+    Tally m_tally;
 };

@@ -25,8 +25,7 @@ public:
         perform(steps, number);
         return !steps.isEmpty();
     }
-    const EditTally &tally() const override { return m_monkey.tally(); }
-    QString statistics() const override { return m_monkey.statistics(); }
+    const Tally &tally() const override { return m_monkey.tally(); }
 
 private:
     void perform(const Steps &steps, int number)

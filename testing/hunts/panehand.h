@@ -3,8 +3,8 @@
 
 #include "choosers.h"
 
-class QTreeView;
+class QWidget;
 
-/// Opens a random row of the property pane, edits its value, resets it or has it chosen. Gives what is wrong
-/// with the outcome, an empty text where nothing is.
-QString usePane(QTreeView *pane, Random &random, Choosers &choosers, ChooserCounts *counts);
+/// Opens a random row of the property pane of a dialog, edits its value, resets it or has it chosen. Gives
+/// what is wrong with the outcome, an empty text where nothing is.
+QString usePane(QWidget *dialog, Random &random, Choosers &choosers, Counts *counts);

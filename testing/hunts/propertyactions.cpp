@@ -19,7 +19,7 @@ void Monkey::showPage(Random &random)
     QWidget *widget = anyWidget(random);
     if (!widget || widget->metaObject()->indexOfProperty("currentIndex") < 0)
         return;
-    ++m_done["showPage"];
+    did("showPage");
     m_form->cursor()->setWidgetProperty(widget, QStringLiteral("currentIndex"), random.below(6) - 1);
 }
 
@@ -81,7 +81,7 @@ void Monkey::changeProperty(Random &random)
         QStringLiteral("autoFillBackground")};
     if (!sheet->isVisible(index) || kept.contains(name))
         return;
-    ++m_done["changeProperty"];
+    did("changeProperty");
     setProperty(widget, name, random);
 }
 
@@ -91,7 +91,7 @@ void Monkey::editLists(Random &random)
     if (!control)
         return;
     DesignerHost::select(m_form, control);
-    ++m_done["editLists"];
+    did("editLists");
     setProperty(control, random.pick(contentsProperties(control)), random);
 }
 

@@ -50,7 +50,7 @@ void Monkey::drop(Random &random)
         name = counterpart(name);
     const QPoint position(random.below(m_form->width()), random.below(m_form->height()));
     if (m_host.drop(m_form, name, position))
-        ++m_done[name.toUtf8()];
+        ++m_tally.actions()[name];
 }
 
 void Monkey::select(Random &random)
@@ -70,7 +70,7 @@ void Monkey::formAction(Random &random)
     QAction *action = m_host.core()->formWindowManager()->action(id);
     if (!action->isEnabled())
         return;
-    ++m_done["formAction"];
+    did("formAction");
     action->trigger();
 }
 
@@ -85,7 +85,7 @@ void Monkey::copyAndPaste(Random &random)
     // The text of an item that a dialog has copied is no form; Designer says so and pastes nothing.
     const bool holdsForm = QGuiApplication::clipboard()->text().contains(QLatin1String("<ui "));
     if (holdsForm && widgets().size() < mostWidgets && manager->action(Manager::PasteAction)->isEnabled()) {
-        ++m_done["paste"];
+        did("paste");
         withDialogs([this] { m_form->paste(FormWindow::PasteAll); }, [](QDialog *) {});
     }
 }
@@ -102,7 +102,7 @@ void Monkey::morph(Random &random)
             continue;
         const auto choices = entry->menu()->actions();
         if (!choices.isEmpty()) {
-            ++m_done["morph"];
+            did("morph");
             random.pick(choices)->trigger();
         }
         return;
@@ -126,7 +126,7 @@ void Monkey::layOut(Random &random)
     }
     if (!action->isEnabled())
         return;
-    ++m_done["layOut"];
+    did("layOut");
     action->trigger();
 }
 
@@ -139,7 +139,7 @@ void Monkey::usePages(Random &random)
         = widget ? m_host.menuAction(m_form, widget, QLatin1String(random.pick(entries))) : nullptr;
     if (!action || !action->isEnabled())
         return;
-    ++m_done["usePages"];
+    did("usePages");
     action->trigger();
 }
 
@@ -157,7 +157,7 @@ void Monkey::doubleClick(Random &random)
     if (!widget || !widget->isVisible())
         return;
     DesignerHost::select(m_form, widget);
-    ++m_done["doubleClick"];
+    did("doubleClick");
     withDialogs(
         [&] {
             const QPoint place(random.below(widget->width()), random.below(widget->height()));
@@ -170,5 +170,7 @@ void Monkey::doubleClick(Random &random)
             if (QWidget *editor = QApplication::focusWidget())
                 QTest::keyClick(editor, Qt::Key_Escape);
         },
-        [&](QDialog *dialog) { DialogHand(random, m_choosers).use(dialog, random.below(3)); });
+        [&](QDialog *dialog) {
+            DialogHand(random, m_choosers, &m_tally.actions()).use(dialog, random.below(3));
+        });
 }
