@@ -24,7 +24,9 @@ QWidget *DrawbackBoxGroupPlugin::makeControl(QWidget *parent)
     auto *group = new Vexa::DrawbackBoxGroup(parent);
     connect(group, SIGNAL(currentIndexChanged(int)), this, SLOT(currentIndexChanged(int)));
     connect(group, SIGNAL(pageTitleChanged(QString)), this, SLOT(pageTitleChanged(QString)));
-    // Not every control library lets the titles be edited in the control.
+    // Not every control library says what is clicked, and lets the titles be edited in the control.
+    if (group->metaObject()->indexOfSignal("pageActivated(int)") >= 0)
+        connect(group, SIGNAL(pageActivated(int)), this, SLOT(pageActivated()));
     if (group->metaObject()->indexOfSignal("pageTitleEdited(int,QString)") >= 0)
         connect(group, SIGNAL(pageTitleEdited(int, QString)), this, SLOT(pageTitleEdited(int, QString)));
     return group;
@@ -69,6 +71,18 @@ void DrawbackBoxGroupPlugin::selectShownGroup(
         isWanted = isWanted || (selected != group && group->isAncestorOf(selected));
     }
     if (!isWanted)
+        return;
+    form->clearSelection(false);
+    form->selectWidget(group, true);
+}
+
+/// The form editor leaves a click on a title bar to the bar, and so the group unselected.
+void DrawbackBoxGroupPlugin::pageActivated()
+{
+    auto *group = qobject_cast<Vexa::DrawbackBoxGroup *>(sender());
+    QDesignerFormWindowInterface *form
+        = group ? QDesignerFormWindowInterface::findFormWindow(group) : nullptr;
+    if (!form || !form->isManaged(group))
         return;
     form->clearSelection(false);
     form->selectWidget(group, true);

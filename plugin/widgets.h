@@ -87,6 +87,7 @@ private slots:
     void currentIndexChanged(int index);
     void pageTitleChanged(const QString &title);
     /// Makes a title that was edited in the control one undo step.
+    void pageActivated();
     void pageTitleEdited(int index, const QString &before);
 
 private:

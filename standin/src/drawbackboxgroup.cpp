@@ -204,7 +204,10 @@ void DrawbackBoxGroup::adopt(DrawbackBox *box)
     box->setExpanded(false);
     // Out of sight until the layout gives it its place: nothing is painted twice.
     box->move(0, height());
-    connect(box, &DrawbackBox::headerActivated, this, [this, box] { setCurrentIndex(m_boxes.indexOf(box)); });
+    connect(box, &DrawbackBox::headerActivated, this, [this, box] {
+        setCurrentIndex(m_boxes.indexOf(box));
+        emit pageActivated(m_current);
+    });
     connect(box, &DrawbackBox::widgetLost, this, [this, box] { drop(m_boxes.indexOf(box), box); });
     connect(box, &DrawbackBox::titleChanged, this, [this, box](const QString &title) {
         if (box == this->box(m_current))

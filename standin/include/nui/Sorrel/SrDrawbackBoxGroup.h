@@ -133,6 +133,8 @@ signals:
     void pageTitleChanged(const QString &title);
     /// The user has given a page another title in its title bar. \a before is the one until then.
     void pageTitleEdited(int index, const QString &before);
+    /// The user has clicked the title bar of this page, or pressed its key, whichever page was shown before.
+    void pageActivated(int index);
 
 protected:
     bool event(QEvent *event) override;
