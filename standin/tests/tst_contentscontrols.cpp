@@ -1,19 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "quiettest.h"
-#include "testdata.h"
-
-#include <nui/Sorrel/SrLineEditEx.h>
-#include <nui/Sorrel/SrMatrixButtons.h>
-#include <nui/Sorrel/SrMatrixPopButtons.h>
-#include <nui/Sorrel/template/SrOptionButtons.h>
-#include <nui/Sorrel/template/SrOptionRadios.h>
-
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QComboBox>
-
-#include <memory>
-
-using namespace Vexa;
+#include "controls.h"
 
 namespace {
 

@@ -1,12 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "quiettest.h"
-#include "testdata.h"
-
-#include <nui/Sorrel/SrDrawbackBoxGroup.h>
-
-#include <memory>
-
-using namespace Vexa;
+#include "controls.h"
 
 namespace {
 

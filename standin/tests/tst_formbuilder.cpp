@@ -1,18 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "quiettest.h"
-#include "testdata.h"
+#include "controls.h"
 
-#include <nui/Sorrel/SrComboBox.h>
 #include <nui/Sorrel/SrFormBuilder.h>
-#include <nui/Sorrel/SrMatrixButtons.h>
-#include <nui/Sorrel/SrMatrixPopButtons.h>
-#include <nui/Sorrel/template/SrOptionButtons.h>
 
 #include <private/ui4_p.h>
-
-#include <memory>
-
-using namespace Vexa;
 
 namespace {
 

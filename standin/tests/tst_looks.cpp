@@ -1,34 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "quiettest.h"
-#include "testdata.h"
-
-#include <nui/Sorrel/SrDrawbackBoxGroup.h>
-#include <nui/Sorrel/SrFormProxy.h>
-#include <nui/Sorrel/SrLine.h>
-#include <nui/Sorrel/SrLineEditEx.h>
-#include <nui/Sorrel/SrLineType.h>
-#include <nui/Sorrel/SrLineWidth.h>
-#include <nui/Sorrel/SrMatrixButtons.h>
-#include <nui/Sorrel/SrMatrixPopButtons.h>
-#include <nui/Sorrel/SrPane.h>
-#include <nui/Sorrel/SrRealNumber.h>
-#include <nui/Sorrel/SrSelectList.h>
-#include <nui/Sorrel/Template/ColorTransfer.h>
-#include <nui/Sorrel/Template/SrAngle.h>
-#include <nui/Sorrel/Template/SrDistance.h>
-#include <nui/Sorrel/Template/SrPoint.h>
-#include <nui/Sorrel/Template/SrSlider.h>
-#include <nui/Sorrel/Template/SrWindow.h>
-#include <nui/Sorrel/template/SrOptionButtons.h>
-#include <nui/Sorrel/template/SrOptionRadios.h>
-
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QStyle>
-#include <QtWidgets/QToolButton>
-#include <QtWidgets/QVBoxLayout>
-
-using namespace Vexa;
+#include "controls.h"
 
 namespace {
 

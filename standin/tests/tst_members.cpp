@@ -1,68 +1,33 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "quiettest.h"
-#include "testdata.h"
-
-#include <nui/Sorrel/SrDrawbackBoxGroup.h>
-#include <nui/Sorrel/SrFormProxy.h>
-#include <nui/Sorrel/SrLineEditEx.h>
-#include <nui/Sorrel/SrLineWidth.h>
-#include <nui/Sorrel/SrPane.h>
-#include <nui/Sorrel/SrRealNumber.h>
-#include <nui/Sorrel/Template/SrCmdButton.h>
-#include <nui/Sorrel/Template/SrColor.h>
-#include <nui/Sorrel/Template/SrDistance.h>
-#include <nui/Sorrel/Template/SrEntity.h>
-#include <nui/Sorrel/Template/SrEntityList.h>
-#include <nui/Sorrel/Template/SrSlider.h>
-#include <nui/Sorrel/Template/SrString.h>
-#include <nui/Sorrel/template/SrOptionButtons.h>
-#include <nui/Sorrel/template/SrOptionCheckBox.h>
-#include <nui/Sorrel/template/SrOptionComboBox.h>
-#include <nui/Sorrel/template/SrOptionRadios.h>
-
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-
-using namespace Vexa;
+#include "controls.h"
 
 namespace {
 
-/// A slot and the signal that it leads to, as forms connect them.
-struct Pair {
+QWidget *makeGroup()
+{
+    auto *group = new DrawbackBoxGroup;
+    group->addPage(new QWidget);
+    group->addPage(new QWidget);
+    return group;
+}
+
+/// Slots and the signal that each of them leads to, as forms connect them.
+struct Members {
     const char *name;
     Maker make;
-    const char *slot;
-    QVariant value; ///< invalid for a slot without arguments
+    const char *slotNames;
+    QVariant value; ///< for slots with an argument
     const char *signal;
 };
-const Pair pairs[] = {
+const Members members[] = {
     {"CmdButton", makeControl<CmdButton>, "click()", {}, "clicked()"},
     {"Color", makeControl<Color>, "setColor(QColor)", QColor(Qt::red), "colorChanged(QColor)"},
     {"Distance", makeControl<Distance>, "setValue(double)", 2.5, "valueChanged(double)"},
-    {"DrawbackBoxGroup",
-        [] {
-            auto *group = new DrawbackBoxGroup;
-            group->addPage(new QWidget);
-            group->addPage(new QWidget);
-            return static_cast<QWidget *>(group);
-        },
-        "setCurrentIndex(int)", 1, "currentIndexChanged(int)"},
-    {"Entity", makeControl<Entity>, "setEntity(QString)", QStringLiteral("Edge 1"), "entityChanged(QString)"},
-    {"Entity, cleared",
-        [] {
-            auto *entity = new Entity;
-            entity->setEntity(QStringLiteral("Edge 1"));
-            return static_cast<QWidget *>(entity);
-        },
-        "clear()", {}, "entityChanged(QString)"},
-    {"EntityList, cleared",
-        [] {
-            auto *list = new EntityList;
-            list->setEntities(words("a b"));
-            return static_cast<QWidget *>(list);
-        },
-        "clear()", {}, "entitiesChanged(QStringList)"},
+    {"DrawbackBoxGroup", makeGroup, "setCurrentIndex(int)", 1, "currentIndexChanged(int)"},
+    {"Entity", makeControl<Entity>, "setEntity(QString) clear()", QStringLiteral("a"),
+        "entityChanged(QString)"},
+    {"EntityList", makeControl<EntityList>, "setEntities(QStringList) clear()", words("a b"),
+        "entitiesChanged(QStringList)"},
     {"FormProxy", makeControl<FormProxy>, "setFormName(QString)", QStringLiteral("units"),
         "formNameChanged(QString)"},
     {"LineWidth", makeControl<LineWidth>, "setLineWidth(double)", 0.5, "lineWidthChanged(double)"},
@@ -75,14 +40,7 @@ const Pair pairs[] = {
     {"Pane", makeControl<Pane>, "setCollapsed(bool)", true, "collapsedChanged(bool)"},
     {"RealNumberSlider", makeControl<RealNumberSlider>, "setValue(double)", 0.5, "valueChanged(double)"},
     {"Slider", makeControl<Slider>, "setValue(double)", 5.0, "valueChanged(double)"},
-    {"String", makeControl<String>, "setText(QString)", QStringLiteral("a"), "textChanged(QString)"},
-    {"String, cleared",
-        [] {
-            auto *string = new String;
-            string->setText(QStringLiteral("a"));
-            return static_cast<QWidget *>(string);
-        },
-        "clear()", {}, "textChanged(QString)"},
+    {"String", makeControl<String>, "setText(QString) clear()", QStringLiteral("a"), "textChanged(QString)"},
 };
 
 } // namespace
@@ -92,22 +50,24 @@ class TestMembers : public QuietTest {
     Q_OBJECT
 
 private slots:
-    void slotLeadsToItsSignal_data() { addRows(pairs); }
-    void slotLeadsToItsSignal()
+    void slotsLeadToTheirSignal_data() { addRows(members); }
+    void slotsLeadToTheirSignal()
     {
-        const Pair &pair = currentRow(pairs);
-        const std::unique_ptr<QWidget> control(pair.make());
+        const Members &row = currentRow(members);
+        const std::unique_ptr<QWidget> control(row.make());
         const QMetaObject *meta = control->metaObject();
-        // A form editor lists public slots, not what can only be invoked.
-        const QMetaMethod slot = meta->method(meta->indexOfSlot(pair.slot));
-        QCOMPARE(slot.methodType(), QMetaMethod::Slot);
-        QCOMPARE(slot.access(), QMetaMethod::Public);
-        QSignalSpy spy(control.get(), QByteArray(QByteArray::number(QSIGNAL_CODE) + pair.signal).constData());
-        QVERIFY(spy.isValid());
-        QVERIFY(pair.value.isValid()
-                ? slot.invoke(control.get(), QGenericArgument(pair.value.typeName(), pair.value.constData()))
-                : slot.invoke(control.get()));
-        QCOMPARE(spy.size(), 1);
+        for (const QString &name : words(row.slotNames)) {
+            // A form editor lists public slots, not what can only be invoked.
+            const QMetaMethod slot = meta->method(meta->indexOfSlot(qPrintable(name)));
+            QCOMPARE(slot.methodType(), QMetaMethod::Slot);
+            QCOMPARE(slot.access(), QMetaMethod::Public);
+            QSignalSpy spy(
+                control.get(), qPrintable(QString::number(QSIGNAL_CODE) + QLatin1String(row.signal)));
+            QVERIFY(spy.isValid());
+            const QGenericArgument argument(row.value.typeName(), row.value.constData());
+            QVERIFY(slot.invoke(control.get(), slot.parameterCount() ? argument : QGenericArgument()));
+            QCOMPARE(spy.size(), 1);
+        }
     }
 
     void typingEndsWithASignal()
