@@ -2,12 +2,9 @@
 #pragma once
 
 #include "panedriver.h"
-#include "quiettest.h"
-#include "testdata.h"
+#include "unittest.h"
 
 #include <QtDesigner/QDesignerFormWindowInterface>
-
-#include <QtWidgets/QtWidgets>
 
 #include <functional>
 #include <random>
@@ -46,9 +43,10 @@ struct OnScreen {
         QGuiApplication::clipboard()->setText(text);
         press(Qt::Key_V, ctrl);
     }
-    void trigger(const char *text)
+    void trigger(const char *text) { trigger(view, text); }
+    static void trigger(const QWidget *owner, const char *text)
     {
-        for (QAction *action : view->actions()) {
+        for (QAction *action : owner->actions()) {
             if (action->text() == QLatin1String(text))
                 return action->trigger();
         }

@@ -3,34 +3,17 @@
 
 #include "designerhost.h"
 #include "dialogs.h"
-#include "editorkeys.h"
-
-#include <propertyeditor/designerpropertymanager.h>
-#include <propertyeditor/itemlisteditor.h>
+#include "listkeys.h"
 
 #include <private/formwindowbase_p.h>
-#include <private/qdesigner_utils_p.h>
 
 #include <QtDesigner/QDesignerFormEditorInterface>
 
-using namespace qdesigner_internal;
-
-constexpr int sizePolicyRole = Qt::UserRole + 40;
-
 /// A list editor of one item with its pane open. The item has a text and nothing else.
-struct ItemEditor : OnScreen<ItemListEditor, QListWidget> {
+struct ItemEditor : Editor {
     explicit ItemEditor(QDesignerFormWindowInterface *form)
-        : OnScreen(form)
+        : Editor({QStringLiteral("item")}, false, form)
     {
-        item->setData(27, QVariant::fromValue(PropertySheetStringValue(item->text())));
-        constexpr auto stringType = &DesignerPropertyManager::designerStringTypeId;
-        constexpr auto iconType = &DesignerPropertyManager::designerIconTypeId;
-        static constexpr AbstractItemEditor::PropertyDefinition table[] = {{27, 0, stringType, "text"},
-            {28, 0, iconType, "icon"}, {29, 0, stringType, "toolTip"}, {30, 0, stringType, "statusTip"},
-            {sizePolicyRole, QMetaType::QSizePolicy, nullptr, "sizePolicy"},
-            {32, QMetaType::QTransform, nullptr, "no such row"}, {0, 0, nullptr, nullptr}};
-        widget.setupEditor(form ? form->mainContainer() : nullptr, table);
-        show({700, 900});
         showPane();
     }
     PropertySheetStringValue string(int role) const
@@ -46,8 +29,8 @@ struct ItemEditor : OnScreen<ItemListEditor, QListWidget> {
     void showIcon(const PropertySheetIconValue &value)
     {
         item->setData(28, QVariant::fromValue(value));
-        view->setCurrentItem(nullptr);
-        view->setCurrentItem(item);
+        list->setCurrentItem(nullptr);
+        list->setCurrentItem(item);
     }
     /// Calls \a use with the dialog that the button of \a row opens; false where none comes up.
     bool usesDialog(const QString &row, const std::function<void(QDialog *)> &use) const
@@ -55,7 +38,7 @@ struct ItemEditor : OnScreen<ItemListEditor, QListWidget> {
         return withDialogs([&] { pane.moreButton(row)->click(); }, use);
     }
 
-    QListWidgetItem *item = new QListWidgetItem(QStringLiteral("item"), view);
+    QListWidgetItem *item = list->item(0);
 };
 
 /// Base of the tests of the property pane: one in a form of the embedded Designer for each test function.

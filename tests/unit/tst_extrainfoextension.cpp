@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "quiettest.h"
+#include "unittest.h"
 
 #include "extensions/extrainfoextension.h"
 
 #include <QtDesigner/QExtensionManager>
-
-#include <QtWidgets/QWidget>
 
 #include <vector>
 

@@ -32,34 +32,7 @@ private slots:
         QuietTest::cleanup();
     }
 
-    void panesUseTheFunctionThatIsThereWhenTheyAreSetUp()
-    {
-        Editor editor(words("a"));
-        QCOMPARE(editor.pane.names(), words("text icon toolTip statusTip whatsThis action"));
-        registerFunction(inCapitals);
-        const Editor capitals(words("a"));
-        QCOMPARE(capitals.pane.names(), words("TEXT ICON TOOLTIP STATUSTIP WHATSTHIS ACTION"));
-        QCOMPARE(editor.pane.names().first(), QStringLiteral("text"));
-        // The sub rows are Designer's own.
-        QCOMPARE(capitals.pane.names(QStringLiteral("TEXT")).first(), QStringLiteral("translatable"));
-        registerFunction(nullptr);
-        QCOMPARE(hostTranslation("toolTip"), QStringLiteral("toolTip"));
-    }
-
-    void rowsOfEqualNameStayApart()
-    {
-        registerFunction(always);
-        Editor editor(words("a"));
-        QCOMPARE(editor.pane.names(), words("x x x x x x"));
-        QAbstractItemModel *model = editor.pane.tree()->model();
-        for (int row : {0, 2}) {
-            const PropertySheetStringValue number(QString::number(row));
-            model->setData(model->index(row, 1), QVariant::fromValue(number));
-        }
-        QCOMPARE(editor.dump(), QStringList{QStringLiteral("0~|2~||0|2")});
-    }
-
-    // Once for the process, so everything about these names is in one function.
+    // Once for the process, so this is the first function and everything about these names is in it.
     void sizePolicyNamesAreTranslatedOnce()
     {
         registerFunction(inCapitals);
@@ -74,6 +47,33 @@ private slots:
         row->setValue(QSizePolicy(QSizePolicy::Ignored, QSizePolicy::Maximum));
         QCOMPARE(row->valueText(), QStringLiteral("[IGNORED, MAXIMUM, 0, 0]"));
         QCOMPARE(row->child(1)->valueText(), QStringLiteral("MAXIMUM"));
+    }
+
+    void panesUseTheFunctionThatIsThereWhenTheyAreSetUp()
+    {
+        Editor editor(words("a"));
+        QCOMPARE(editor.pane.names(), words("text icon toolTip statusTip whatsThis action sizePolicy"));
+        registerFunction(inCapitals);
+        const Editor capitals(words("a"));
+        QCOMPARE(capitals.pane.names(), words("TEXT ICON TOOLTIP STATUSTIP WHATSTHIS ACTION SIZEPOLICY"));
+        QCOMPARE(editor.pane.names().first(), QStringLiteral("text"));
+        // The sub rows are Designer's own.
+        QCOMPARE(capitals.pane.names(QStringLiteral("TEXT")).first(), QStringLiteral("translatable"));
+        registerFunction(nullptr);
+        QCOMPARE(hostTranslation("toolTip"), QStringLiteral("toolTip"));
+    }
+
+    void rowsOfEqualNameStayApart()
+    {
+        registerFunction(always);
+        Editor editor(words("a"));
+        QCOMPARE(editor.pane.names(), words("x x x x x x x"));
+        QAbstractItemModel *model = editor.pane.tree()->model();
+        for (int row : {0, 2}) {
+            const PropertySheetStringValue number(QString::number(row));
+            model->setData(model->index(row, 1), QVariant::fromValue(number));
+        }
+        QCOMPARE(editor.dump(), QStringList{QStringLiteral("0~|2~||0|2")});
     }
 };
 

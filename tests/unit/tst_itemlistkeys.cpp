@@ -29,19 +29,10 @@ private slots:
         Editor editor(words("a b c d"));
         QGuiApplication::clipboard()->setText(QStringLiteral("P\nQ"));
         editor.select(QLatin1String(press.rows));
-        const QStringList before = editor.dump();
         editor.press(press.key, press.modifiers);
         QCOMPARE(editor.log.join(QLatin1Char(',')), QLatin1String(press.log));
         QCOMPARE(editor.texts(), words(press.texts));
         QCOMPARE(editor.selected(), QLatin1String(press.selected));
-        const QStringList after = editor.dump();
-
-        editor.log.clear();
-        editor.undo();
-        QCOMPARE(editor.log.join(QLatin1Char(',')), QLatin1String(press.undoLog));
-        QCOMPARE(editor.dump(), before);
-        editor.redo();
-        QCOMPARE(editor.dump(), after);
         QVERIFY(editor.widget.history()->count() <= 1);
     }
 
@@ -67,13 +58,6 @@ private slots:
         QCOMPARE(editor.texts(), words("a bc"));
     }
 
-    void oneRowIsSelectedUnlessSeveralAreAllowed()
-    {
-        Editor editor(words("a b c"), false);
-        QTest::keyClick(editor.list, Qt::Key_A, ctrl);
-        QCOMPARE(editor.selected(), QStringLiteral("0"));
-    }
-
     void paneEditsAllSelectedRows()
     {
         Editor editor(words("a b c"));
@@ -97,18 +81,12 @@ private slots:
         QCOMPARE(editor.pane.valueText(QStringLiteral("text")), editor.list->currentItem()->text());
         editor.widget.history()->setIndex(0);
         QCOMPARE(editor.dump(), before);
-    }
-
-    void commentOfSeveralRowsLeavesTheirTexts()
-    {
-        Editor editor(words("a b"));
-        editor.showPane();
-        editor.select(QStringLiteral("0,1"));
         QVERIFY(editor.pane.type(QStringLiteral("text/comment"), QStringLiteral("c")));
-        QCOMPARE(editor.dump(), (QStringList{QStringLiteral("a~c|-||a|"), QStringLiteral("b~c|-||b|")}));
+        QCOMPARE(editor.dump(),
+            (QStringList{QStringLiteral("a~c|-||a|"), before.at(1), QStringLiteral("c~c|-||c|")}));
         editor.pane.tree()->setFocus();
         QTest::keyClick(editor.pane.tree(), Qt::Key_Delete);
-        QCOMPARE(editor.texts(), words("a b"));
+        QCOMPARE(editor.texts(), words("a b c"));
     }
 
     void keyStrokesInARowAreOneStep()
@@ -128,14 +106,17 @@ private slots:
         QCOMPARE(editor.texts(), words("xyz b"));
     }
 
-    void currentRowIsAlwaysOneOfTheSelected()
+    void currentRowIsOneOfTheSelectedAndTheOnlyOneUnlessSeveralAreAllowed()
     {
-        Editor editor(words("a b c"));
-        editor.select(QStringLiteral("0,1,2"));
-        QTest::mouseClick(editor.list->viewport(), Qt::LeftButton, ctrl,
-            editor.list->visualItemRect(editor.list->item(1)).center());
-        QCOMPARE(editor.selected(), QStringLiteral("0,2"));
-        QVERIFY(editor.list->currentItem()->isSelected());
+        Editor several(words("a b c"));
+        several.select(QStringLiteral("0,1,2"));
+        QTest::mouseClick(several.list->viewport(), Qt::LeftButton, ctrl,
+            several.list->visualItemRect(several.list->item(1)).center());
+        QCOMPARE(several.selected(), QStringLiteral("0,2"));
+        QVERIFY(several.list->currentItem()->isSelected());
+        Editor one(words("a b c"), false);
+        one.press(Qt::Key_A, ctrl);
+        QCOMPARE(one.selected(), QStringLiteral("0"));
     }
 
     void copiesGoToOtherProgramsAndEditors()
@@ -146,7 +127,8 @@ private slots:
         editor.list->item(0)->setData(32, QStringLiteral("not offered"));
         editor.select(QStringLiteral("0,1"));
         editor.press(Qt::Key_C, ctrl);
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("a\t:/i.png\t\t\t\t\nb\t\t\t\t\t\n"));
+        QCOMPARE(
+            QGuiApplication::clipboard()->text(), QStringLiteral("a\t:/i.png\t\t\t\t\t\nb\t\t\t\t\t\t\n"));
         Editor other({});
         other.press(Qt::Key_V, ctrl);
         QCOMPARE(other.dump(), editor.dump());
@@ -156,7 +138,7 @@ private slots:
     void columnsOfATextAreTheRowsOfThePane()
     {
         Editor editor(words("a"));
-        editor.pasteText(QStringLiteral("b\t:/i.png\ttip\t\t\t\tmore\r\n\"c\nd\"\t\ttip\r\n\r\n"));
+        editor.pasteText(QStringLiteral("b\t:/i.png\ttip\t\t\t\t\tmore\r\n\"c\nd\"\t\ttip\r\n\r\n"));
         QCOMPARE(editor.dump().mid(1),
             (QStringList{QStringLiteral("b~|tip~|:/i.png|b|tip"), QStringLiteral("c\nd~|tip~||c\nd|tip"),
                 QStringLiteral("~|-|||")}));
@@ -176,6 +158,8 @@ private slots:
         QCOMPARE(editor.widget.history()->count(), 1);
         editor.undo();
         QCOMPARE(editor.dump(), before);
+        editor.redo();
+        QCOMPARE(editor.texts(), words("a x y"));
     }
 
     void sortingKnowsNumbersAndIsStable()
@@ -189,8 +173,6 @@ private slots:
         QCOMPARE(editor.selected(), QStringLiteral("5"));
         editor.trigger("Sort by Text");
         QCOMPARE(editor.log, QStringList{QStringLiteral("reordered")});
-        editor.undo();
-        QCOMPARE(editor.texts(), words("item10 b item2 B item1 item2"));
     }
 
     void draggedRowsMove_data()
@@ -214,8 +196,6 @@ private slots:
         QVERIFY(QMetaObject::invokeMethod(editor.list, "rowsDropped", Q_ARG(int, before)));
         QCOMPARE(editor.texts().join(QLatin1Char(' ')), texts);
         QCOMPARE(editor.selected().count(QLatin1Char(',')), rows.count(QLatin1Char(',')));
-        editor.widget.history()->setIndex(0);
-        QCOMPARE(editor.texts(), words("a b c d"));
     }
 
     void textsAreFound_data() { addRows(searches); }

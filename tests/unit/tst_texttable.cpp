@@ -1,17 +1,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "quiettest.h"
-#include "testdata.h"
+#include "unittest.h"
 
 #include <propertyeditor/itemclipboard.h>
 
-#include <private/qdesigner_utils_p.h>
-
-#include <QtGui/QClipboard>
-#include <QtGui/QGuiApplication>
-
 #include <random>
-
-using namespace qdesigner_internal;
 
 namespace {
 
@@ -112,16 +104,16 @@ private slots:
 
     void itemsComeBackInFull()
     {
-        const ItemTable before = twoItems();
-        const ItemTable after = itemsOf(copiedBytes());
-        QCOMPARE(after.columns, 1);
-        QCOMPARE(after.items.size(), 2);
-        QCOMPARE(after.items.first().value(27).value<PropertySheetStringValue>(),
-            before.items.first().value(27).value<PropertySheetStringValue>());
-        QCOMPARE(after.items.first().value(27).value<PropertySheetStringValue>().id(), QStringLiteral("id"));
-        QCOMPARE(after.items.first().value(28).value<PropertySheetIconValue>(),
-            before.items.first().value(28).value<PropertySheetIconValue>());
-        QVERIFY(after.items.last().isEmpty());
+        const ItemTable table = itemsOf(copiedBytes());
+        QCOMPARE(table.columns, 1);
+        QCOMPARE(table.items.size(), 2);
+        const ItemValues before = twoItems().items.first(), after = table.items.first();
+        const auto text = after.value(27).value<PropertySheetStringValue>();
+        QCOMPARE(text, before.value(27).value<PropertySheetStringValue>());
+        QCOMPARE(text.id(), QStringLiteral("id"));
+        QCOMPARE(after.value(28).value<PropertySheetIconValue>(),
+            before.value(28).value<PropertySheetIconValue>());
+        QVERIFY(table.items.last().isEmpty());
     }
 
     void brokenItemsAreRefused()
