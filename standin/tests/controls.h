@@ -38,3 +38,9 @@
 #include <QtWidgets/QtWidgets>
 
 using namespace Vexa;
+
+/// A row for a kind of control.
+struct Kind {
+    const char *name;
+    Maker make;
+};

@@ -3,12 +3,12 @@
 
 namespace {
 
-struct Kind {
+struct Field {
     const char *name;
     Maker make;
     int stops; ///< for the Tab key, with all fields enabled; one for all exclusive buttons
 };
-const Kind kinds[] = {
+const Field fields[] = {
     {"Angle", makeControl<Angle>, 1},
     {"CmdButton", makeControl<CmdButton>, 1},
     {"Color", makeControl<Color>, 1},
@@ -44,8 +44,6 @@ const Kind kinds[] = {
 struct Panel {
     Panel(QWidget *tried, bool orderedBefore)
         : control(tried)
-        , first(new QLineEdit)
-        , last(new QLineEdit)
     {
         auto *column = new QVBoxLayout(&window);
         // Made in another order than they are reached.
@@ -59,7 +57,7 @@ struct Panel {
             order();
         for (auto *button : control->findChildren<QAbstractButton *>())
             button->setEnabled(true);
-        window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
     }
     void order()
     {
@@ -80,8 +78,8 @@ struct Panel {
 
     QWidget window;
     QWidget *const control;
-    QLineEdit *const first;
-    QLineEdit *const last;
+    QLineEdit *const first = new QLineEdit;
+    QLineEdit *const last = new QLineEdit;
 };
 
 /// Whether a field is read before another one: above it, or left of it in the same row.
@@ -103,21 +101,20 @@ private slots:
     {
         QTest::addColumn<int>("row");
         QTest::addColumn<bool>("orderedBefore");
-        for (int i = 0; i < int(std::size(kinds)); ++i) {
-            QTest::addRow("%s, ordered before its contents come", kinds[i].name) << i << true;
-            QTest::addRow("%s, ordered when it is shown", kinds[i].name) << i << false;
+        for (int i = 0; i < int(std::size(fields)); ++i) {
+            QTest::addRow("%s, ordered before its contents come", fields[i].name) << i << true;
+            QTest::addRow("%s, ordered when it is shown", fields[i].name) << i << false;
         }
     }
     void keyboardGoesThroughTheFieldsInReadingOrder()
     {
         QFETCH(bool, orderedBefore);
-        const Kind &kind = currentRow(kinds);
-        Panel panel(kind.make(), orderedBefore);
-        QVERIFY(QTest::qWaitForWindowActive(&panel.window));
+        const Field &field = currentRow(fields);
+        Panel panel(field.make(), orderedBefore);
         panel.first->setFocus();
         const QVector<QWidget *> forth = panel.way(Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), panel.last);
-        QCOMPARE(forth.size(), kind.stops);
+        QCOMPARE(forth.size(), field.stops);
         for (int i = 1; i < forth.size(); ++i)
             QVERIFY2(!isBefore(panel.control, forth.at(i), forth.at(i - 1)), qPrintable(QString::number(i)));
         QVector<QWidget *> back = panel.way(Qt::Key_Backtab);
@@ -136,7 +133,6 @@ private slots:
     {
         auto *options = new OptionRadios;
         Panel panel(options, true);
-        QVERIFY(QTest::qWaitForWindowActive(&panel.window));
         options->setCurrentIndex(2);
         options->setFocus();
         const auto text = [] {
