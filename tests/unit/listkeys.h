@@ -1,34 +1,27 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "panedriver.h"
-#include "testdata.h"
+#include "editorkeys.h"
 
 #include <propertyeditor/designerpropertymanager.h>
 #include <propertyeditor/itemlisteditor.h>
 
-#include <private/qdesigner_utils_p.h>
+constexpr int sizePolicyRole = Qt::UserRole + 40;
 
-#include <QtWidgets/QAction>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QTreeView>
-#include <QtWidgets/QUndoStack>
-
-#include <algorithm>
-
-using namespace qdesigner_internal;
-
-/// A list editor on the screen, with its list in the focus, and a listener that knows nothing but the
-/// signals.
-struct Editor {
-    explicit Editor(const QStringList &texts, bool extended = true)
+/// A list editor, and a listener that knows nothing but the signals.
+struct Editor : OnScreen<ItemListEditor, QListWidget> {
+    explicit Editor(
+        const QStringList &texts, bool extended = true, QDesignerFormWindowInterface *form = nullptr)
+        : OnScreen(form)
+        , mirror(texts)
     {
         constexpr auto stringType = &DesignerPropertyManager::designerStringTypeId;
         constexpr auto iconType = &DesignerPropertyManager::designerIconTypeId;
-        static constexpr AbstractItemEditor::PropertyDefinition table[]
-            = {{27, 0, stringType, "text"}, {28, 0, iconType, "icon"}, {29, 0, stringType, "toolTip"}, {}};
+        static constexpr AbstractItemEditor::PropertyDefinition table[] = {{27, 0, stringType, "text"},
+            {28, 0, iconType, "icon"}, {29, 0, stringType, "toolTip"}, {30, 0, stringType, "statusTip"},
+            {31, 0, stringType, "whatsThis"}, {257, 0, stringType, "action"},
+            {sizePolicyRole, QMetaType::QSizePolicy, nullptr, "sizePolicy"},
+            {32, QMetaType::QTransform, nullptr, "no such row"}, {}};
         widget.setNewItemText(QStringLiteral("New"));
         if (extended)
             widget.setExtendedSelection();
@@ -38,13 +31,9 @@ struct Editor {
                 QVariant::fromValue(PropertySheetStringValue(text, true, {}, QLatin1String("of ") + text)));
             item->setFlags(item->flags() | Qt::ItemIsEditable);
         }
-        mirror = texts;
         listen();
-        widget.setupEditor(nullptr, table);
-        widget.resize(700, 400);
-        widget.show();
-        QVERIFY(QTest::qWaitForWindowActive(&widget));
-        list->setFocus();
+        widget.setupEditor(form ? form->mainContainer() : nullptr, table);
+        show({700, 1100});
         log.clear();
     }
 
@@ -70,9 +59,13 @@ struct Editor {
         });
         QObject::connect(
             &widget, &ItemListEditor::itemChanged, [this](int row, int role, const QVariant &value) {
+                const bool isString = value.userType() == qMetaTypeId<PropertySheetStringValue>();
+                const QString text
+                    = isString ? value.value<PropertySheetStringValue>().value() : value.toString();
                 if (role == 27)
-                    mirror[row] = value.value<PropertySheetStringValue>().value();
-                log += QStringLiteral("changed %1 %2").arg(row).arg(role);
+                    mirror[row] = text;
+                const char *type = isString ? "string " : value.isValid() ? "text " : "-";
+                log += QStringLiteral("changed %1 %2 %3%4").arg(row).arg(role).arg(QLatin1String(type), text);
             });
     }
 
@@ -98,55 +91,44 @@ struct Editor {
     }
     QStringList texts() const
     {
-        QStringList texts;
-        for (int row = 0; row < list->count(); ++row)
-            texts += list->item(row)->text();
-        return texts;
+        return lines([](const QListWidgetItem *item) { return item->text(); });
     }
     /// All that the rows hold and show.
     QStringList dump() const
     {
-        QStringList lines;
-        for (int row = 0; row < list->count(); ++row) {
-            const QListWidgetItem *item = list->item(row);
+        return lines([](const QListWidgetItem *item) {
             const auto text = [item](int role) {
                 const auto value = item->data(role).value<PropertySheetStringValue>();
                 return item->data(role).isValid() ? value.value() + QLatin1Char('~') + value.comment()
                                                   : QStringLiteral("-");
             };
             const auto icon = item->data(28).value<PropertySheetIconValue>();
-            lines += QStringList{text(27), text(29), icon.pixmap(QIcon::Normal, QIcon::Off).path(),
-                item->text(), item->toolTip()}
-                         .join(QLatin1Char('|'));
-        }
-        return lines;
+            const QString path = icon.pixmap(QIcon::Normal, QIcon::Off).path();
+            return QStringList{text(27), text(29), path, item->text(), item->toolTip()}.join(
+                QLatin1Char('|'));
+        });
     }
+    /// Renames no new item.
     void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QTest::keyClick(list, Qt::Key(key), modifiers);
-        // A new item is being renamed.
-        if (auto *line = inPlace())
+        OnScreen::press(key, modifiers);
+        if (QLineEdit *line = inPlace())
             QTest::keyClick(line, Qt::Key_Escape);
         list->setFocus();
     }
-    QLineEdit *inPlace() const
-    {
-        auto *line = qobject_cast<QLineEdit *>(QApplication::focusWidget());
-        return line && line->parent() == list->viewport() ? line : nullptr;
-    }
-    void trigger(const char *text)
-    {
-        const auto actions = list->actions();
-        const auto found = std::find_if(actions.cbegin(), actions.cend(),
-            [text](const QAction *action) { return action->text() == QLatin1String(text); });
-        QVERIFY(found != actions.cend());
-        (*found)->trigger();
-    }
 
-    ItemListEditor widget{nullptr, nullptr};
-    QListWidget *list = widget.listWidget();
+    QListWidget *list = view;
     QStringList mirror, log;
-    PaneDriver pane{&widget};
+
+private:
+    template <typename Line>
+    QStringList lines(const Line &line) const
+    {
+        QStringList lines;
+        for (int row = 0; row < list->count(); ++row)
+            lines += line(list->item(row));
+        return lines;
+    }
 };
 
 /// A key, pressed in a list of "a b c d" with "P" and "Q" on the clipboard.
@@ -158,28 +140,23 @@ struct Press {
     const char *texts;
     const char *selected;
     const char *log;
-    const char *undoLog;
 };
-constexpr auto ctrl = Qt::ControlModifier;
 const Press presses[] = {
-    {"insert", "1", Qt::Key_Insert, {}, "a b New c d", "2", "inserted 2", "deleted 2"},
-    {"new", "3", Qt::Key_N, ctrl, "a b c d New", "4", "inserted 4", "deleted 4"},
-    {"new after several", "0,2", Qt::Key_N, ctrl, "a b c New d", "3", "inserted 3", "deleted 3"},
-    {"delete one", "1", Qt::Key_Delete, {}, "a c d", "1", "deleted 1", "inserted 1"},
-    {"delete several", "0,2,3", Qt::Key_Delete, {}, "b", "0", "deleted 3,deleted 2,deleted 0",
-        "inserted 0,inserted 2,inserted 3"},
-    {"delete all", "0,1,2,3", Qt::Key_Delete, {}, "", "", "deleted 3,deleted 2,deleted 1,deleted 0",
-        "inserted 0,inserted 1,inserted 2,inserted 3"},
-    {"up", "1", Qt::Key_Up, ctrl, "b a c d", "0", "up 1", "down 0"},
-    {"several up", "1,2", Qt::Key_Up, ctrl, "b c a d", "0,1", "up 1,up 2", "down 1,down 0"},
-    {"several up, one has no room", "0,2", Qt::Key_Up, ctrl, "a c b d", "1", "up 2", "down 1"},
-    {"top", "0,1", Qt::Key_Up, ctrl, "a b c d", "0,1", "", ""},
-    {"down", "2", Qt::Key_Down, ctrl, "a b d c", "3", "down 2", "up 3"},
-    {"several down", "0,2", Qt::Key_Down, ctrl, "b a d c", "1,3", "down 2,down 0", "up 1,up 3"},
-    {"bottom", "2,3", Qt::Key_Down, ctrl, "a b c d", "2,3", "", ""},
-    {"duplicate", "0", Qt::Key_D, ctrl, "a a b c d", "1", "inserted 1", "deleted 1"},
-    {"duplicate several", "0,2", Qt::Key_D, ctrl, "a b c a c d", "3,4", "inserted 3,inserted 4",
-        "deleted 4,deleted 3"},
-    {"cut", "1,3", Qt::Key_X, ctrl, "a c", "1", "deleted 3,deleted 1", "inserted 1,inserted 3"},
-    {"paste", "0", Qt::Key_V, ctrl, "a P Q b c d", "1,2", "inserted 1,inserted 2", "deleted 2,deleted 1"},
+    {"insert", "1", Qt::Key_Insert, {}, "a b New c d", "2", "inserted 2"},
+    {"new", "3", Qt::Key_N, ctrl, "a b c d New", "4", "inserted 4"},
+    {"new after several", "0,2", Qt::Key_N, ctrl, "a b c New d", "3", "inserted 3"},
+    {"delete one", "1", Qt::Key_Delete, {}, "a c d", "1", "deleted 1"},
+    {"delete several", "0,2,3", Qt::Key_Delete, {}, "b", "0", "deleted 3,deleted 2,deleted 0"},
+    {"delete all", "0,1,2,3", Qt::Key_Delete, {}, "", "", "deleted 3,deleted 2,deleted 1,deleted 0"},
+    {"up", "1", Qt::Key_Up, ctrl, "b a c d", "0", "up 1"},
+    {"several up", "1,2", Qt::Key_Up, ctrl, "b c a d", "0,1", "up 1,up 2"},
+    {"several up, one has no room", "0,2", Qt::Key_Up, ctrl, "a c b d", "1", "up 2"},
+    {"top", "0,1", Qt::Key_Up, ctrl, "a b c d", "0,1", ""},
+    {"down", "2", Qt::Key_Down, ctrl, "a b d c", "3", "down 2"},
+    {"several down", "0,2", Qt::Key_Down, ctrl, "b a d c", "1,3", "down 2,down 0"},
+    {"bottom", "2,3", Qt::Key_Down, ctrl, "a b c d", "2,3", ""},
+    {"duplicate", "0", Qt::Key_D, ctrl, "a a b c d", "1", "inserted 1"},
+    {"duplicate several", "0,2", Qt::Key_D, ctrl, "a b c a c d", "3,4", "inserted 3,inserted 4"},
+    {"cut", "1,3", Qt::Key_X, ctrl, "a c", "1", "deleted 3,deleted 1"},
+    {"paste", "0", Qt::Key_V, ctrl, "a P Q b c d", "1,2", "inserted 1,inserted 2"},
 };

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "quiettest.h"
+#include "unittest.h"
 
 #include "extensions/extrainfoextension.h"
 
 #include <QtDesigner/QExtensionManager>
 
-#include <QtWidgets/QWidget>
-
-#include <memory>
 #include <vector>
 
 namespace {

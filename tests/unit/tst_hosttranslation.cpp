@@ -1,23 +1,13 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "hostbase.h"
-#include "panedriver.h"
-#include "quiettest.h"
-#include "testdata.h"
+#include "listkeys.h"
 
-#include <propertyeditor/designerpropertymanager.h>
 #include <propertyeditor/hosttranslation.h>
-#include <propertyeditor/itemlisteditor.h>
 #include <propertyeditor/propertyrow.h>
 #include <propertyeditor/sizepolicynames.h>
 
-#include <private/qdesigner_utils_p.h>
-
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QTreeView>
-
 using Norvik::Quenta::Ap::Base;
 using Norvik::Quenta::Ap::Function;
-using namespace qdesigner_internal;
 
 namespace {
 
@@ -28,10 +18,6 @@ void registerFunction(QString (*function)(const char *))
 {
     Base::instance()->registerFunction(Function::TranslateText, reinterpret_cast<void *>(function));
 }
-
-constexpr auto stringType = &DesignerPropertyManager::designerStringTypeId;
-constexpr AbstractItemEditor::PropertyDefinition table[]
-    = {{27, 0, stringType, "text"}, {29, 0, stringType, "toolTip"}, {0, 0, nullptr, nullptr}};
 
 } // namespace
 
@@ -46,45 +32,7 @@ private slots:
         QuietTest::cleanup();
     }
 
-    void textsGoThroughTheFunctionAsItIsNow()
-    {
-        QCOMPARE(hostTranslation("toolTip"), QStringLiteral("toolTip"));
-        registerFunction(inCapitals);
-        QCOMPARE(hostTranslation("toolTip"), QStringLiteral("TOOLTIP"));
-        registerFunction(always);
-        QCOMPARE(hostTranslation("toolTip"), QStringLiteral("x"));
-        registerFunction(nullptr);
-        QCOMPARE(hostTranslation("toolTip"), QStringLiteral("toolTip"));
-    }
-
-    void panesUseTheFunctionThatIsThereWhenTheyAreSetUp()
-    {
-        Editor editor;
-        QCOMPARE(editor.pane.names(), words("text toolTip"));
-        registerFunction(inCapitals);
-        QCOMPARE(Editor().pane.names(), words("TEXT TOOLTIP"));
-        QCOMPARE(editor.pane.names().first(), QStringLiteral("text"));
-        // The sub rows are Designer's own.
-        QCOMPARE(Editor().pane.names(QStringLiteral("TEXT")).first(), QStringLiteral("translatable"));
-    }
-
-    void rowsOfEqualNameStayApart()
-    {
-        registerFunction(always);
-        Editor editor;
-        QCOMPARE(editor.pane.names(), words("x x"));
-        QAbstractItemModel *model = editor.pane.tree()->model();
-        const auto setRow = [model](int row, const QString &text) {
-            model->setData(model->index(row, 1), QVariant::fromValue(PropertySheetStringValue(text)));
-        };
-        setRow(0, QStringLiteral("a"));
-        setRow(1, QStringLiteral("b"));
-        const QListWidgetItem *item = editor.widget.listWidget()->item(0);
-        QCOMPARE(item->data(27).value<PropertySheetStringValue>().value(), QStringLiteral("a"));
-        QCOMPARE(item->data(29).value<PropertySheetStringValue>().value(), QStringLiteral("b"));
-    }
-
-    // Once for the process, so everything about these names is in one function.
+    // Once for the process, so this is the first function and everything about these names is in it.
     void sizePolicyNamesAreTranslatedOnce()
     {
         registerFunction(inCapitals);
@@ -101,16 +49,32 @@ private slots:
         QCOMPARE(row->child(1)->valueText(), QStringLiteral("MAXIMUM"));
     }
 
-private:
-    struct Editor {
-        Editor()
-        {
-            widget.listWidget()->addItem(QStringLiteral("item"));
-            widget.setupEditor(nullptr, table);
+    void panesUseTheFunctionThatIsThereWhenTheyAreSetUp()
+    {
+        Editor editor(words("a"));
+        QCOMPARE(editor.pane.names(), words("text icon toolTip statusTip whatsThis action sizePolicy"));
+        registerFunction(inCapitals);
+        const Editor capitals(words("a"));
+        QCOMPARE(capitals.pane.names(), words("TEXT ICON TOOLTIP STATUSTIP WHATSTHIS ACTION SIZEPOLICY"));
+        QCOMPARE(editor.pane.names().first(), QStringLiteral("text"));
+        // The sub rows are Designer's own.
+        QCOMPARE(capitals.pane.names(QStringLiteral("TEXT")).first(), QStringLiteral("translatable"));
+        registerFunction(nullptr);
+        QCOMPARE(hostTranslation("toolTip"), QStringLiteral("toolTip"));
+    }
+
+    void rowsOfEqualNameStayApart()
+    {
+        registerFunction(always);
+        Editor editor(words("a"));
+        QCOMPARE(editor.pane.names(), words("x x x x x x x"));
+        QAbstractItemModel *model = editor.pane.tree()->model();
+        for (int row : {0, 2}) {
+            const PropertySheetStringValue number(QString::number(row));
+            model->setData(model->index(row, 1), QVariant::fromValue(number));
         }
-        ItemListEditor widget{nullptr, nullptr};
-        PaneDriver pane{&widget};
-    };
+        QCOMPARE(editor.dump(), QStringList{QStringLiteral("0~|2~||0|2")});
+    }
 };
 
 QTEST_MAIN(TestHostTranslation)

@@ -1,17 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "quiettest.h"
-#include "testdata.h"
+#include "unittest.h"
 
 #include "editing/itemdata.h"
-
-#include <private/qdesigner_utils_p.h>
-
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QTableWidget>
-
-using namespace qdesigner_internal;
-
-Q_DECLARE_METATYPE(ItemData)
 
 namespace {
 
@@ -64,52 +54,44 @@ const FlagCase flagCases[] = {
     {"no editor: other flags", false, true, 5, int(Qt::ItemIsEnabled), Qt::ItemIsEnabled},
 };
 
+struct Pair {
+    const char *name;
+    ItemData left, right;
+    bool equal = false;
+};
+const QString a = QStringLiteral("a");
+const Pair pairs[] = {
+    {"nothing", {}, {}, true},
+    {"same text", entry({{27, text(a, false, a, a, a)}}), entry({{27, text(a, false, a, a, a)}}), true},
+    {"order of setting", entry({{27, text(a)}, {29, text(a)}}), entry({{29, text(a)}, {27, text(a)}}), true},
+    {"same icon", entry({{28, icon(a)}}), entry({{28, icon(a)}}), true},
+    {"same plain value", entry({{7, 129}}), entry({{7, 129}}), true},
+    {"other role", entry({{27, text(a)}}), entry({{29, text(a)}})},
+    {"empty text is no missing text", entry({{27, text({})}}), {}},
+    {"other text", entry({{27, text(a)}}), entry({{27, text(QStringLiteral("b"))}})},
+    {"translatable", entry({{27, text(a)}}), entry({{27, text(a, false)}})},
+    {"disambiguation", entry({{27, text(a)}}), entry({{27, text(a, true, a)}})},
+    {"comment", entry({{27, text(a)}}), entry({{27, text(a, true, {}, a)}})},
+    {"id", entry({{27, text(a)}}), entry({{27, text(a, true, {}, {}, a)}})},
+    {"icon path", entry({{28, icon(a)}}), entry({{28, icon(QStringLiteral("b"))}})},
+    {"icon mode", entry({{28, icon(a)}}), entry({{28, icon(a, QIcon::Disabled)}})},
+    {"icon theme", entry({{28, icon(a)}}), entry({{28, icon(a, QIcon::Normal, a)}})},
+    {"other type", entry({{27, text(a)}}), entry({{27, a}})},
+    {"plain value", entry({{7, 129}}), entry({{7, 130}})},
+};
+
 } // namespace
 
 class TestItemData : public QuietTest {
     Q_OBJECT
 
 private slots:
-    void equalityIsByValue_data()
-    {
-        QTest::addColumn<ItemData>("left");
-        QTest::addColumn<ItemData>("right");
-        QTest::addColumn<bool>("equal");
-        const QString a = QStringLiteral("a");
-        const auto row = [](const char *name, bool equal, const ItemData &left, const ItemData &right) {
-            QTest::newRow(name) << left << right << equal;
-        };
-        const auto differs = [&row](const char *name, int role, const QVariant &left, const QVariant &right) {
-            row(name, false, entry({{role, left}}), entry({{role, right}}));
-        };
-        row("nothing", true, {}, {});
-        row("same text", true, entry({{27, text(a, false, a, a, a)}}),
-            entry({{27, text(a, false, a, a, a)}}));
-        row("order of setting", true, entry({{27, text(a)}, {29, text(a)}}),
-            entry({{29, text(a)}, {27, text(a)}}));
-        row("same icon", true, entry({{28, icon(a)}}), entry({{28, icon(a)}}));
-        row("same plain value", true, entry({{7, 129}}), entry({{7, 129}}));
-        row("other role", false, entry({{27, text(a)}}), entry({{29, text(a)}}));
-
-        differs("empty text is no missing text", 27, text({}), {});
-        differs("other text", 27, text(a), text(QStringLiteral("b")));
-        differs("translatable", 27, text(a), text(a, false));
-        differs("disambiguation", 27, text(a), text(a, true, a));
-        differs("comment", 27, text(a), text(a, true, {}, a));
-        differs("id", 27, text(a), text(a, true, {}, {}, a));
-        differs("icon path", 28, icon(a), icon(QStringLiteral("b")));
-        differs("icon mode", 28, icon(a), icon(a, QIcon::Disabled));
-        differs("icon theme", 28, icon(a), icon(a, QIcon::Normal, a));
-        differs("other type", 27, text(a), a);
-        differs("plain value", 7, 129, 130);
-    }
+    void equalityIsByValue_data() { addRows(pairs); }
     void equalityIsByValue()
     {
-        QFETCH(ItemData, left);
-        QFETCH(ItemData, right);
-        QFETCH(bool, equal);
-        QCOMPARE(left == right, equal);
-        QCOMPARE(right != left, !equal);
+        const Pair &pair = currentRow(pairs);
+        QCOMPARE(pair.left == pair.right, pair.equal);
+        QCOMPARE(pair.right != pair.left, !pair.equal);
     }
 
     void rolesAreSortedAndNeverInvalid()

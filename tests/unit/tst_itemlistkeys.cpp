@@ -1,11 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "listkeys.h"
-#include "quiettest.h"
-
-#include <QtGui/QClipboard>
-#include <QtGui/QGuiApplication>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QToolButton>
 
 namespace {
 
@@ -35,22 +29,10 @@ private slots:
         Editor editor(words("a b c d"));
         QGuiApplication::clipboard()->setText(QStringLiteral("P\nQ"));
         editor.select(QLatin1String(press.rows));
-        const QStringList before = editor.dump();
         editor.press(press.key, press.modifiers);
         QCOMPARE(editor.log.join(QLatin1Char(',')), QLatin1String(press.log));
         QCOMPARE(editor.texts(), words(press.texts));
         QCOMPARE(editor.selected(), QLatin1String(press.selected));
-        QCOMPARE(editor.mirror, editor.texts());
-        const QStringList after = editor.dump();
-
-        editor.log.clear();
-        editor.press(Qt::Key_Z, ctrl);
-        QCOMPARE(editor.log.join(QLatin1Char(',')), QLatin1String(press.undoLog));
-        QCOMPARE(editor.dump(), before);
-        QCOMPARE(editor.mirror, editor.texts());
-        editor.press(Qt::Key_Z, ctrl | Qt::ShiftModifier);
-        QCOMPARE(editor.dump(), after);
-        QCOMPARE(editor.mirror, editor.texts());
         QVERIFY(editor.widget.history()->count() <= 1);
     }
 
@@ -59,9 +41,8 @@ private slots:
         Editor editor(words("a bc"));
         editor.select(QStringLiteral("1"));
         QTest::keyClick(editor.list, Qt::Key_F2);
+        QTRY_VERIFY(editor.inPlace());
         QLineEdit *line = editor.inPlace();
-        QVERIFY(line);
-        QTRY_VERIFY(line->hasFocus());
         QTest::keyClick(line, Qt::Key_Home);
         QTest::keyClick(line, Qt::Key_Delete);
         QCOMPARE(line->text(), QStringLiteral("c"));
@@ -72,25 +53,15 @@ private slots:
         QCOMPARE(editor.texts(), words("a bc"));
         QTest::keyClicks(line, QStringLiteral("x"));
         QTest::keyClick(line, Qt::Key_Return);
-        QTRY_COMPARE(editor.texts().size(), 2);
         QTRY_COMPARE(editor.widget.history()->count(), 1);
-        editor.list->setFocus();
-        editor.press(Qt::Key_Z, ctrl);
+        editor.undo();
         QCOMPARE(editor.texts(), words("a bc"));
-    }
-
-    void oneRowIsSelectedUnlessSeveralAreAllowed()
-    {
-        Editor editor(words("a b c"), false);
-        QTest::keyClick(editor.list, Qt::Key_A, ctrl);
-        QCOMPARE(editor.selected(), QStringLiteral("0"));
     }
 
     void paneEditsAllSelectedRows()
     {
         Editor editor(words("a b c"));
-        editor.widget.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
-        QTRY_VERIFY(editor.pane.tree()->width() > 200);
+        editor.showPane();
         const auto *label = editor.widget.findChild<QLabel *>(QStringLiteral("countLabel"));
         QVERIFY(!label->isVisible());
         editor.select(QStringLiteral("2,0"));
@@ -104,33 +75,24 @@ private slots:
         QCOMPARE(editor.dump(),
             (QStringList{QStringLiteral("xy~of a|tip~|:/i.png|xy|tip"), before.at(1),
                 QStringLiteral("xy~of c|tip~|:/i.png|xy|tip")}));
-        QCOMPARE(editor.mirror, editor.texts());
         QCOMPARE(editor.widget.history()->count(), 3);
         editor.widget.history()->undo();
         QCOMPARE(editor.texts(), words("a b c"));
         QCOMPARE(editor.pane.valueText(QStringLiteral("text")), editor.list->currentItem()->text());
         editor.widget.history()->setIndex(0);
         QCOMPARE(editor.dump(), before);
-    }
-
-    void commentOfSeveralRowsLeavesTheirTexts()
-    {
-        Editor editor(words("a b"));
-        editor.widget.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
-        QTRY_VERIFY(editor.pane.tree()->width() > 200);
-        editor.select(QStringLiteral("0,1"));
         QVERIFY(editor.pane.type(QStringLiteral("text/comment"), QStringLiteral("c")));
-        QCOMPARE(editor.dump(), (QStringList{QStringLiteral("a~c|-||a|"), QStringLiteral("b~c|-||b|")}));
+        QCOMPARE(editor.dump(),
+            (QStringList{QStringLiteral("a~c|-||a|"), before.at(1), QStringLiteral("c~c|-||c|")}));
         editor.pane.tree()->setFocus();
         QTest::keyClick(editor.pane.tree(), Qt::Key_Delete);
-        QCOMPARE(editor.texts(), words("a b"));
+        QCOMPARE(editor.texts(), words("a b c"));
     }
 
     void keyStrokesInARowAreOneStep()
     {
         Editor editor(words("a b"));
-        editor.widget.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
-        QTRY_VERIFY(editor.pane.tree()->width() > 200);
+        editor.showPane();
         const QUndoStack *history = editor.widget.history();
         QVERIFY(editor.pane.type(QStringLiteral("text"), QStringLiteral("xyz")));
         QCOMPARE(history->count(), 1);
@@ -140,20 +102,21 @@ private slots:
         for (const char *path : {":/a.png", ":/b.png"})
             QVERIFY(editor.pane.pastePath(QStringLiteral("icon"), QLatin1String(path)));
         QCOMPARE(history->count(), 4);
-        editor.press(Qt::Key_Z, ctrl);
-        editor.press(Qt::Key_Z, ctrl);
-        editor.press(Qt::Key_Z, ctrl);
+        editor.widget.history()->setIndex(1);
         QCOMPARE(editor.texts(), words("xyz b"));
     }
 
-    void currentRowIsAlwaysOneOfTheSelected()
+    void currentRowIsOneOfTheSelectedAndTheOnlyOneUnlessSeveralAreAllowed()
     {
-        Editor editor(words("a b c"));
-        editor.select(QStringLiteral("0,1,2"));
-        QTest::mouseClick(editor.list->viewport(), Qt::LeftButton, ctrl,
-            editor.list->visualItemRect(editor.list->item(1)).center());
-        QCOMPARE(editor.selected(), QStringLiteral("0,2"));
-        QVERIFY(editor.list->currentItem()->isSelected());
+        Editor several(words("a b c"));
+        several.select(QStringLiteral("0,1,2"));
+        QTest::mouseClick(several.list->viewport(), Qt::LeftButton, ctrl,
+            several.list->visualItemRect(several.list->item(1)).center());
+        QCOMPARE(several.selected(), QStringLiteral("0,2"));
+        QVERIFY(several.list->currentItem()->isSelected());
+        Editor one(words("a b c"), false);
+        one.press(Qt::Key_A, ctrl);
+        QCOMPARE(one.selected(), QStringLiteral("0"));
     }
 
     void copiesGoToOtherProgramsAndEditors()
@@ -161,22 +124,21 @@ private slots:
         Editor editor(words("a b"));
         editor.list->item(0)->setData(28,
             QVariant::fromValue(PropertySheetIconValue(PropertySheetPixmapValue(QStringLiteral(":/i.png")))));
-        editor.list->item(0)->setData(30, QStringLiteral("not offered"));
+        editor.list->item(0)->setData(32, QStringLiteral("not offered"));
         editor.select(QStringLiteral("0,1"));
         editor.press(Qt::Key_C, ctrl);
-        QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("a\t:/i.png\t\nb\t\t\n"));
+        QCOMPARE(
+            QGuiApplication::clipboard()->text(), QStringLiteral("a\t:/i.png\t\t\t\t\t\nb\t\t\t\t\t\t\n"));
         Editor other({});
         other.press(Qt::Key_V, ctrl);
         QCOMPARE(other.dump(), editor.dump());
-        QVERIFY(!other.list->item(0)->data(30).isValid());
+        QVERIFY(!other.list->item(0)->data(32).isValid());
     }
 
     void columnsOfATextAreTheRowsOfThePane()
     {
         Editor editor(words("a"));
-        QGuiApplication::clipboard()->setText(
-            QStringLiteral("b\t:/i.png\ttip\tmore\r\n\"c\nd\"\t\ttip\r\n\r\n"));
-        editor.press(Qt::Key_V, ctrl);
+        editor.pasteText(QStringLiteral("b\t:/i.png\ttip\t\t\t\t\tmore\r\n\"c\nd\"\t\ttip\r\n\r\n"));
         QCOMPARE(editor.dump().mid(1),
             (QStringList{QStringLiteral("b~|tip~|:/i.png|b|tip"), QStringLiteral("c\nd~|tip~||c\nd|tip"),
                 QStringLiteral("~|-|||")}));
@@ -189,13 +151,15 @@ private slots:
         editor.select(QStringLiteral("1"));
         const QStringList before = editor.dump();
         QGuiApplication::clipboard()->setText(QStringLiteral("x\ny\t\ttip\nz\n"));
-        editor.press(Qt::Key_V, ctrl | Qt::ShiftModifier);
+        editor.press(Qt::Key_V, ctrlShift);
         QCOMPARE(editor.texts(), words("a x y"));
         QCOMPARE(editor.list->item(2)->toolTip(), QStringLiteral("tip"));
         QCOMPARE(editor.mirror, editor.texts());
         QCOMPARE(editor.widget.history()->count(), 1);
-        editor.press(Qt::Key_Z, ctrl);
+        editor.undo();
         QCOMPARE(editor.dump(), before);
+        editor.redo();
+        QCOMPARE(editor.texts(), words("a x y"));
     }
 
     void sortingKnowsNumbersAndIsStable()
@@ -207,11 +171,8 @@ private slots:
         QCOMPARE(editor.texts().mid(2), words("item1 item2 item2 item10"));
         QCOMPARE(editor.list->item(3)->toolTip(), QStringLiteral("first"));
         QCOMPARE(editor.selected(), QStringLiteral("5"));
-        QCOMPARE(editor.mirror, editor.texts());
         editor.trigger("Sort by Text");
         QCOMPARE(editor.log, QStringList{QStringLiteral("reordered")});
-        editor.press(Qt::Key_Z, ctrl);
-        QCOMPARE(editor.texts(), words("item10 b item2 B item1 item2"));
     }
 
     void draggedRowsMove_data()
@@ -234,10 +195,7 @@ private slots:
         editor.select(rows);
         QVERIFY(QMetaObject::invokeMethod(editor.list, "rowsDropped", Q_ARG(int, before)));
         QCOMPARE(editor.texts().join(QLatin1Char(' ')), texts);
-        QCOMPARE(editor.mirror, editor.texts());
         QCOMPARE(editor.selected().count(QLatin1Char(',')), rows.count(QLatin1Char(',')));
-        editor.widget.history()->setIndex(0);
-        QCOMPARE(editor.texts(), words("a b c d"));
     }
 
     void textsAreFound_data() { addRows(searches); }
@@ -261,19 +219,15 @@ private slots:
     void everyButtonHasAName()
     {
         Editor editor(words("a"));
-        const auto buttons = editor.widget.findChildren<QToolButton *>();
-        for (const QToolButton *button : buttons) {
-            if (!button->objectName().endsWith(QLatin1String("ListItemButton"))
-                && !button->objectName().startsWith(QLatin1String("moveListItem")))
-                continue;
-            QVERIFY(!button->accessibleName().isEmpty());
-            QVERIFY2(button->toolTip().startsWith(button->accessibleName() + QLatin1String(" (")),
-                qPrintable(button->toolTip()));
+        for (const char *name :
+            {"newListItemButton", "deleteListItemButton", "moveListItemUpButton", "moveListItemDownButton"}) {
+            const auto *button = editor.widget.findChild<QToolButton *>(QLatin1String(name));
+            QVERIFY2(!button->accessibleName().isEmpty(), name);
+            QVERIFY2(button->toolTip().startsWith(button->accessibleName() + QLatin1String(" (")), name);
         }
         QCOMPARE(editor.list->accessibleName(), QStringLiteral("Items List"));
         QCOMPARE(editor.pane.tree()->accessibleName(), QStringLiteral("Properties"));
-        editor.widget.findChild<QAbstractButton *>(QStringLiteral("showPropertiesButton"))->click();
-        QTRY_VERIFY(editor.pane.tree()->width() > 200);
+        editor.showPane();
         QVERIFY(editor.pane.open(QStringLiteral("toolTip")));
         QCOMPARE(
             editor.pane.lineEdit(QStringLiteral("toolTip"))->accessibleName(), QStringLiteral("toolTip"));

@@ -6,12 +6,6 @@
 #include <QtDesigner/QDesignerPropertyEditorInterface>
 #include <QtDesigner/QDesignerPropertySheetExtension>
 
-#include <QtCore/QTranslator>
-#include <QtGui/QClipboard>
-#include <QtWidgets/QHeaderView>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-
 namespace {
 
 const QString icon = QStringLiteral("icon"), themeName = QStringLiteral("pane-test-icon");
@@ -62,29 +56,28 @@ private slots:
 
     void iconsAreChosenStateByState()
     {
-        PaneDriver &pane = m_pane->driver;
+        PaneDriver &pane = m_editor->pane;
         choose(icon, "a.png");
-        QCOMPARE(m_pane->iconPath(), file("a.png"));
-        QCOMPARE(pane.valueText(icon), QStringLiteral("a.png"));
-        QVERIFY(!m_pane->item->icon().isNull());
+        QCOMPARE(m_editor->iconPath(), file("a.png"));
+        QVERIFY(!m_editor->item->icon().isNull());
 
         const QString state = QStringLiteral("icon/Selected On");
         choose(state, "b.png");
-        QCOMPARE(m_pane->iconValue().mask(), 0x81u);
-        QCOMPARE(m_pane->iconPath(QIcon::Selected, QIcon::On), file("b.png"));
+        QCOMPARE(m_editor->iconValue().mask(), 0x81u);
+        QCOMPARE(m_editor->iconPath(QIcon::Selected, QIcon::On), file("b.png"));
         QVERIFY(pane.isModified(state) && pane.isModified(icon)
             && !pane.isModified(QStringLiteral("icon/Normal On")));
 
         // Another file for the whole icon leaves nothing of the old one.
         choose(icon, "b.png");
-        QCOMPARE(m_pane->iconValue().mask(), 0x1u);
+        QCOMPARE(m_editor->iconValue().mask(), 0x1u);
         QVERIFY(!pane.isModified(state));
 
         pane.reset(QStringLiteral("icon/Normal Off"));
-        QVERIFY(!m_pane->item->data(28).isValid());
-        QVERIFY(!pane.isModified(icon) && m_pane->item->icon().isNull());
+        QVERIFY(!m_editor->item->data(28).isValid());
+        QVERIFY(!pane.isModified(icon) && m_editor->item->icon().isNull());
         choose(icon, "");
-        QVERIFY(!m_pane->item->data(28).isValid());
+        QVERIFY(!m_editor->item->data(28).isValid());
     }
 
     void iconIsTakenFromTheTheme()
@@ -92,30 +85,28 @@ private slots:
         // The button asks again where the icon is from.
         const auto title = [this] {
             QString shown;
-            m_pane->usesDialog(icon, [&shown](QDialog *dialog) {
+            m_editor->usesDialog(icon, [&shown](QDialog *dialog) {
                 shown = dialog->windowTitle();
                 dialog->reject();
             });
             return shown;
         };
-        m_pane->driver.open(icon);
+        m_editor->pane.open(icon);
         QCOMPARE(title(), QStringLiteral("Select Resource"));
         choose(icon, "a.png");
         m_chooser->asked = 0;
-        m_pane->driver.moreButton(icon)->click();
+        m_editor->pane.moreButton(icon)->click();
         QCOMPARE(m_chooser->asked, 1);
-        QVERIFY(withDialogs([this] { m_pane->driver.trigger(icon, "Set Icon From Theme..."); },
+        QVERIFY(withDialogs([this] { m_editor->pane.trigger(icon, "Set Icon From Theme..."); },
             [](QDialog *dialog) {
                 QTest::keyClicks(dialog->findChild<QLineEdit *>(), themeName);
                 dialog->accept();
             }));
-        QCOMPARE(m_pane->iconValue().theme(), themeName);
-        QCOMPARE(m_pane->iconPath(), QString());
-        QCOMPARE(m_pane->driver.valueText(icon), QLatin1String("[Theme] ") + themeName);
-        QCOMPARE(m_pane->driver.valueText(QStringLiteral("icon/Theme")), themeName);
+        QCOMPARE(m_editor->iconValue().theme(), themeName);
+        QCOMPARE(m_editor->iconPath(), QString());
         QCOMPARE(title(), QStringLiteral("Set Icon From Theme"));
-        m_pane->driver.reset(QStringLiteral("icon/Theme"));
-        QVERIFY(!m_pane->item->data(28).isValid());
+        m_editor->pane.reset(QStringLiteral("icon/Theme"));
+        QVERIFY(!m_editor->item->data(28).isValid());
     }
 
     void iconRowsAreThoseOfDesigner_data() { addRows(iconCases); }
@@ -132,9 +123,7 @@ private slots:
         value.setPixmap(QIcon::Disabled, QIcon::On, pixmap(QLatin1String(iconCase.disabledOn)));
         const QModelIndex theirs = designersWindowIcon(value);
         QVERIFY(theirs.isValid());
-        m_pane->item->setData(28, QVariant::fromValue(value));
-        m_pane->editor.listWidget()->setCurrentItem(nullptr);
-        m_pane->editor.listWidget()->setCurrentItem(m_pane->item);
+        m_editor->showIcon(value);
 
         const auto picture = [](const QModelIndex &cell) {
             return cell.data(Qt::DecorationRole).value<QIcon>().pixmap(16, 16).toImage();
@@ -145,14 +134,14 @@ private slots:
                 .arg(cell.data().toString(), cell.data(Qt::ToolTipRole).toString(),
                     image.isNull() ? QString() : image.pixelColor(8, 8).name());
         };
-        const QStringList parts = QStringList(QString()) + m_pane->driver.names(icon);
+        const QStringList parts = QStringList(QString()) + m_editor->pane.names(icon);
         for (int part = 0; part < parts.size(); ++part) {
             const QString row = icon + QLatin1Char('/') + parts.at(part);
-            const QModelIndex ours = m_pane->driver.value(row);
+            const QModelIndex ours = m_editor->pane.value(row);
             QCOMPARE(shown(ours),
                 shown(part == 0 ? theirs.siblingAtColumn(1) : theirs.model()->index(part - 1, 1, theirs)));
             // An open editor shows what its row does; the one of a theme is Designer's.
-            const auto labels = m_pane->driver.open(row)->findChildren<QLabel *>();
+            const auto labels = m_editor->pane.open(row)->findChildren<QLabel *>();
             if (labels.size() == 2)
                 QCOMPARE(labels.first()->pixmap(Qt::ReturnByValue).toImage(), picture(ours));
         }
@@ -163,53 +152,48 @@ private slots:
         struct Catalogue : QTranslator {
             QString translate(const char *context, const char *text, const char *, int) const override
             {
-                if (qstrcmp(text, "XX Icon Selected off") == 0
-                    && qstrcmp(context, "ItemPropertyBrowser") == 0)
-                    return QString(40, QLatin1Char('X'));
-                if (qstrcmp(text, "[Theme] %1") != 0)
-                    return QString();
-                return QString::fromLatin1(context).section(QLatin1String("::"), 1) + QLatin1String(" %1");
+                const bool known
+                    = qstrcmp(text, "XX Icon Selected off") == 0 || qstrcmp(text, "[Theme] %1") == 0;
+                const QString name = QString::fromLatin1(context).section(QLatin1String("::"), -1);
+                return known ? name + QLatin1String(" %1") : QString();
             }
             bool isEmpty() const override { return false; }
         } catalogue;
         QVERIFY(QCoreApplication::installTranslator(&catalogue));
-        const Pane pane(m_form);
-        QCOMPARE(pane.tree()->header()->sectionSize(0),
-            pane.tree()->fontMetrics().horizontalAdvance(QString(40, QLatin1Char('X'))));
+        ItemEditor editor(m_form);
+        QTreeView *tree = editor.pane.tree();
+        QCOMPARE(tree->header()->sectionSize(0),
+            tree->fontMetrics().horizontalAdvance(QStringLiteral("ItemPropertyBrowser %1")));
         PropertySheetIconValue value;
         value.setTheme(themeName);
-        pane.item->setData(28, QVariant::fromValue(value));
-        pane.editor.listWidget()->setCurrentItem(nullptr);
-        pane.editor.listWidget()->setCurrentItem(pane.item);
-        QCOMPARE(pane.driver.valueText(icon), QLatin1String("DesignerPropertyManager ") + themeName);
-        QCOMPARE(PaneDriver(pane.driver).open(icon)->findChildren<QLabel *>().last()->text(),
+        editor.showIcon(value);
+        QCOMPARE(editor.pane.valueText(icon), QLatin1String("DesignerPropertyManager ") + themeName);
+        QCOMPARE(editor.pane.open(icon)->findChildren<QLabel *>().last()->text(),
             QLatin1String("PixmapEditor ") + themeName);
     }
 
     void pathsAreCopiedAndPasted()
     {
         choose(icon, "a.png");
-        m_pane->driver.trigger(icon, "Copy Path");
+        m_editor->pane.trigger(icon, "Copy Path");
         QCOMPARE(QApplication::clipboard()->text(), file("a.png"));
         QApplication::clipboard()->setText(file("b.png") + QLatin1String("\nsecond line"));
-        m_pane->driver.trigger(icon, "Paste Path");
-        QCOMPARE(m_pane->iconPath(), file("b.png"));
+        m_editor->pane.trigger(icon, "Paste Path");
+        QCOMPARE(m_editor->iconPath(), file("b.png"));
         QApplication::clipboard()->setText(themeName);
-        m_pane->driver.trigger(icon, "Paste Path");
-        QCOMPARE(m_pane->iconValue().theme(), themeName);
-        QCOMPARE(m_pane->iconPath(), QString());
+        m_editor->pane.trigger(icon, "Paste Path");
+        QCOMPARE(m_editor->iconValue().theme(), themeName);
+        QCOMPARE(m_editor->iconPath(), QString());
     }
 
     void iconsFollowTheResourceSet()
     {
-        QCOMPARE(m_pane->editor.iconCache(), m_form->iconCache());
         const QString path = QStringLiteral(":/qt-project.org/formeditor/images/submenu.png");
-        m_pane->item->setData(
-            28, QVariant::fromValue(PropertySheetIconValue(PropertySheetPixmapValue(path))));
-        QVERIFY(m_pane->item->icon().isNull());
-        QSignalSpy changes(&m_pane->editor, &ItemListEditor::itemChanged);
+        m_editor->showIcon(PropertySheetIconValue(PropertySheetPixmapValue(path)));
+        QVERIFY(m_editor->item->icon().isNull());
+        QSignalSpy changes(&m_editor->widget, &ItemListEditor::itemChanged);
         emit m_form->iconCache()->reloaded();
-        QVERIFY(!m_pane->item->icon().isNull());
+        QVERIFY(!m_editor->item->icon().isNull());
         QCOMPARE(changes.size(), 0);
     }
 
@@ -246,8 +230,8 @@ private:
     void choose(const QString &row, const char *name)
     {
         m_chooser->answer = *name ? file(name) : QString();
-        QVERIFY(m_pane->driver.open(row) || m_pane->driver.editor(row));
-        m_pane->driver.trigger(row, "Choose File...");
+        QVERIFY(m_editor->pane.open(row) || m_editor->pane.editor(row));
+        m_editor->pane.trigger(row, "Choose File...");
     }
 
     FileChooser *m_chooser = nullptr; // the core's
