@@ -4,19 +4,36 @@
 #include "dialogs.h"
 #include "hosttest.h"
 #include "panedriver.h"
-#include "testdata.h"
 
-#include <QtCore/QPointer>
-#include <QtCore/QTemporaryDir>
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QTreeView>
-#include <QtWidgets/QUndoStack>
-
-#include <functional>
+/// A control with contents, its menu's entry, what its editor is called, and the rows of the editor's pane.
+struct ContentsControl {
+    const char *name;
+    const char *entry;
+    const char *title;
+    const char *undoText;
+    const char *rows;
+};
+inline const ContentsControl contentsControls[] = {
+    {"ComboBox", "Edit Items", "Edit ComboBox", "", "text icon action"},
+    {"CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", "", "text toolTip"},
+    {"OptionComboBox", "Edit Items", "Edit Option ComboBox", "", "text icon data"},
+    {"OptionButtons", "Edit Buttons", "Edit OptionButtons", "Change OptionButtons Contents",
+        "text icon tooltip data"},
+    {"OptionRadios", "Edit Buttons", "Edit OptionRadios", "Change OptionRadios Contents",
+        "text icon tooltip data"},
+    {"MatrixPushButtons", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents",
+        "text icon toolTip action"},
+    {"MatrixRadioButtons", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents",
+        "text icon toolTip action"},
+    {"MatrixCheckBoxes", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents",
+        "text icon toolTip action"},
+    {"MatrixPopButtons", "Edit Buttons", "Edit Matrix PopButtons", "Change MatrixPopButtons Contents",
+        "text icon toolTip action"},
+    {"DrawbackBoxGroup", "Edit DrawbackBox", "Edit DrawbackBoxGroup", "Change OptionRadios Contents",
+        "text tooltip data"},
+};
+// Where in the table the combo boxes end, all controls with one list, and the grids.
+constexpr int combosEnd = 3, listsEnd = 5, gridsEnd = 9;
 
 /// Counts how often the objects it watches are told that a modal dialog came or went.
 class ModalityCounter final : public QObject {
@@ -107,10 +124,10 @@ protected:
     static QStringList shownPaneRows(QDialog *dialog)
     {
         const PaneDriver pane(dialog);
-        const auto *toggle = dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton"));
-        const bool hidden = !pane.tree()->isVisible() && toggle->text() == QLatin1String("Properties &<<");
+        const auto *toggle = dialog->findChild<QPushButton *>("showPropertiesButton"_s);
+        const bool hidden = !pane.tree()->isVisible() && toggle->text() == "Properties &<<"_s;
         press(dialog, "showPropertiesButton");
-        const bool shown = pane.tree()->isVisible() && toggle->text() == QLatin1String("Properties &>>");
+        const bool shown = pane.tree()->isVisible() && toggle->text() == "Properties &>>"_s;
         return hidden && shown ? pane.names() : QStringList();
     }
 
@@ -124,6 +141,17 @@ protected:
                 paths += row + QLatin1Char('/') + part;
         }
         return paths;
+    }
+
+    /// Adds three entries, or as many rows.
+    static void addEntries(const QDialog *dialog)
+    {
+        if (auto *rows = dialog->findChild<QSpinBox *>("rowCounts"_s)) {
+            rows->setValue(rows->value() + 3);
+            return;
+        }
+        for (int i = 0; i < 3; ++i)
+            press(dialog, "newListItemButton");
     }
 
     static void press(const QDialog *dialog, QDialogButtonBox::StandardButton button)
@@ -140,7 +168,7 @@ protected:
 
     QString imageFile() const
     {
-        QString path = m_dir.filePath(QStringLiteral("icon.png"));
+        QString path = m_dir.filePath("icon.png"_s);
         saveImage(path);
         return path;
     }
