@@ -1,41 +1,20 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "editingtest.h"
 
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QSpinBox>
-#include <QtWidgets/QTableWidget>
-
 #include <algorithm>
 
 namespace {
-
-struct Kind {
-    const char *name;
-    const char *entry;
-};
-const Kind kinds[] = {
-    {"ComboBox", "Edit Items"},
-    {"CheckableTextComboBox", "Edit Items"},
-    {"OptionComboBox", "Edit Items"},
-    {"OptionButtons", "Edit Buttons"},
-    {"OptionRadios", "Edit Buttons"},
-    {"MatrixPushButtons", "Edit Buttons"},
-    {"MatrixRadioButtons", "Edit Buttons"},
-    {"MatrixCheckBoxes", "Edit Buttons"},
-    {"MatrixPopButtons", "Edit Buttons"},
-    {"DrawbackBoxGroup", "Edit DrawbackBox"},
-};
 
 /// What a widget is called: by its object name, the pane as such, a nameless button by its text.
 QString nameOf(const QWidget *widget)
 {
     if (qobject_cast<const QTreeView *>(widget))
-        return QStringLiteral("pane");
+        return "pane"_s;
     const auto *button = qobject_cast<const QPushButton *>(widget);
-    if (button && button->objectName() != QLatin1String("showPropertiesButton"))
+    if (button && button->objectName() != "showPropertiesButton"_s)
         return button->text().remove(QLatin1Char('&'));
-    if (widget && widget->objectName() == QLatin1String("qt_tabwidget_tabbar"))
-        return QStringLiteral("tab");
+    if (widget && widget->objectName() == "qt_tabwidget_tabbar"_s)
+        return "tab"_s;
     return widget ? widget->objectName() : QString();
 }
 
@@ -83,8 +62,7 @@ class TestTabbing : public EditingTest {
     /// Opens the dialog of the row's control and waits until it has the keyboard.
     void editActive(const UseDialog &use)
     {
-        const Kind &kind = currentRow(kinds);
-        m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged .*"));
+        const ContentsControl &kind = currentRow(contentsControls);
         FormWindow *form = newForm();
         QWidget *control = drop(form, kind.name);
         QVERIFY(control);
@@ -93,59 +71,44 @@ class TestTabbing : public EditingTest {
             use(dialog);
         }));
     }
-    /// Adds rows until every button has something to do.
-    static void fill(QDialog *dialog)
+    /// Adds rows until every button has something to do, and gives the contents the keyboard.
+    static QWidget *fill(QDialog *dialog)
     {
-        if (auto *table = dialog->findChild<QTableWidget *>()) {
-            dialog->findChild<QSpinBox *>(QStringLiteral("rowCounts"))->setValue(3);
-            table->setCurrentCell(1, 0);
-            return;
-        }
+        addEntries(dialog);
+        auto *table = dialog->findChild<QTableWidget *>();
         auto *list = dialog->findChild<QListWidget *>();
-        for (int i = 0; i < 3; ++i)
-            press(dialog, "newListItemButton");
-        list->setCurrentRow(1);
-        list->setFocus();
+        table ? table->setCurrentCell(1, 0) : list->setCurrentRow(1);
+        QWidget *contents = table ? static_cast<QWidget *>(table) : list;
+        contents->setFocus();
+        return contents;
     }
 
 private slots:
-    void keyboardStartsInTheContents_data() { addRows(kinds); }
-    void keyboardStartsInTheContents()
-    {
-        editActive([](QDialog *dialog) {
-            const bool grid = dialog->findChild<QTableWidget *>();
-            QCOMPARE(nameOf(QApplication::focusWidget()), QLatin1String(grid ? "tableWidget" : "listWidget"));
-            pressKey(Qt::Key_Space);
-            QVERIFY(dialog->isVisible());
-            for (const auto *button : dialog->findChildren<QPushButton *>())
-                QCOMPARE(button->isDefault(), nameOf(button) == QLatin1String("OK"));
-        });
-    }
-
-    void tabGoesThroughTheDialogInReadingOrder_data() { addRows(kinds); }
+    void tabGoesThroughTheDialogInReadingOrder_data() { addRows(contentsControls); }
     void tabGoesThroughTheDialogInReadingOrder()
     {
         editActive([](QDialog *dialog) {
-            fill(dialog);
+            const bool grid = dialog->findChild<QTableWidget *>();
+            const QString start = grid ? "tableWidget"_s : "listWidget"_s;
+            QCOMPARE(nameOf(QApplication::focusWidget()), start);
+            pressKey(Qt::Key_Space);
+            QVERIFY(dialog->isVisible());
+            for (const auto *button : dialog->findChildren<QPushButton *>())
+                QCOMPARE(button->isDefault(), nameOf(button) == "OK"_s);
+
+            QWidget *contents = fill(dialog);
             press(dialog, "showPropertiesButton");
-            auto *table = dialog->findChild<QTableWidget *>();
-            QWidget *start = table;
-            QString order
-                = QStringLiteral("rowCounts colCounts showPropertiesButton pane OK Cancel tab tableWidget");
-            if (!table) {
-                start = dialog->findChild<QListWidget *>();
-                order
-                    = QStringLiteral("newListItemButton deleteListItemButton moveListItemUpButton "
-                                     "moveListItemDownButton showPropertiesButton pane OK Cancel listWidget");
-            }
-            start->setFocus();
-            QCOMPARE(way(Qt::Key_Tab, start), order);
-            const QString others = order.left(order.lastIndexOf(QLatin1Char(' ')));
-            QCOMPARE(way(Qt::Key_Backtab, start), reversed(others) + QLatin1Char(' ') + nameOf(start));
+            const QString others = grid
+                ? "rowCounts colCounts showPropertiesButton pane OK Cancel tab"_s
+                : "newListItemButton deleteListItemButton moveListItemUpButton moveListItemDownButton "
+                  "showPropertiesButton pane OK Cancel"_s;
+            contents->setFocus();
+            QCOMPARE(way(Qt::Key_Tab, contents), others + QLatin1Char(' ') + start);
+            QCOMPARE(way(Qt::Key_Backtab, contents), reversed(others) + QLatin1Char(' ') + start);
         });
     }
 
-    void tabLeadsThroughAnOpenRowOfThePane_data() { addRows(kinds); }
+    void tabLeadsThroughAnOpenRowOfThePane_data() { addRows(contentsControls); }
     void tabLeadsThroughAnOpenRowOfThePane()
     {
         editActive([](QDialog *dialog) {
@@ -154,10 +117,7 @@ private slots:
             PaneDriver pane(dialog);
             // With a value there is something to reset.
             for (const QString &row : pane.names()) {
-                if (row == QLatin1String("icon"))
-                    QVERIFY(pane.pastePath(row, QStringLiteral("a.png")));
-                else
-                    QVERIFY(pane.paste(row, QStringLiteral("a")));
+                QVERIFY(row == "icon"_s ? pane.pastePath(row, "a.png"_s) : pane.paste(row, "a"_s));
             }
             for (const QString &path : rowPaths(pane)) {
                 pane.tree()->setFocus();
@@ -170,13 +130,13 @@ private slots:
                     QVERIFY2(stop->hasFocus(), qPrintable(path));
                     pressKey(Qt::Key_Tab);
                 }
-                QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("OK"));
+                QCOMPARE(nameOf(QApplication::focusWidget()), "OK"_s);
                 for (int i = expected.size() - 1; i >= 0; --i) {
                     pressKey(Qt::Key_Backtab);
                     QVERIFY2(expected.at(i)->hasFocus(), qPrintable(path));
                 }
                 pressKey(Qt::Key_Backtab);
-                QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("pane"));
+                QCOMPARE(nameOf(QApplication::focusWidget()), "pane"_s);
             }
         });
     }
