@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QtCore/QDir>
-#include <QtCore/QProcess>
+#include "quiettest.h"
+#include "testdata.h"
 
 #include <csignal>
 #include <sys/resource.h>
@@ -61,7 +61,7 @@ inline QStringList exampleForms()
 {
     const QDir folder(QStringLiteral(EXAMPLES "/forms"));
     QStringList forms;
-    const QStringList names = folder.entryList({QStringLiteral("*.ui")});
+    const QStringList names = folder.entryList({"*.ui"_s});
     for (const QString &name : names)
         forms += folder.filePath(name);
     return forms;
