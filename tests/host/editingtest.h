@@ -35,17 +35,6 @@ inline const ContentsControl contentsControls[] = {
 // Where in the table the combo boxes end, all controls with one list, and the grids.
 constexpr int combosEnd = 3, listsEnd = 5, gridsEnd = 9;
 
-/// Counts how often the objects it watches are told that a modal dialog came or went.
-class ModalityCounter final : public QObject {
-public:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked;
-        return false;
-    }
-    int count = 0;
-};
-
 /// Base of the tests that edit contents in the dialogs of the task menus.
 class EditingTest : public HostTest {
     Q_OBJECT

@@ -20,6 +20,24 @@ inline void compareTexts(const QString &actual, const QString &expected)
     QCOMPARE(actualLines.size(), expectedLines.size());
 }
 
+/// Counts the events of some kinds that the objects it watches get.
+class EventCounter final : public QObject {
+public:
+    explicit EventCounter(const QSet<int> &types)
+        : m_types(types)
+    {
+    }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += m_types.contains(event->type());
+        return false;
+    }
+    int count = 0;
+
+private:
+    const QSet<int> m_types;
+};
+
 /// Base of the tests in the embedded Designer: one host for all test functions, no form left over from one to
 /// the next.
 class HostTest : public QuietTest {

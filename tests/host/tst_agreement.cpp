@@ -24,20 +24,6 @@ QString shownValue(const QVariant &value)
     return value.type() == QVariant::StringList ? value.toStringList().join("; "_s) : value.toString();
 }
 
-/// What a user does in any of the dialogs: one more entry, or a cell and a row.
-void addSomething(QDialog *dialog)
-{
-    if (auto *table = dialog->findChild<QTableWidget *>()) {
-        table->item(0, 0)->setText("zzz"_s);
-        dialog->findChild<QSpinBox *>("rowCounts"_s)->setValue(table->rowCount() + 1);
-        dialog->findChild<QSpinBox *>("colCounts"_s)->setValue(1);
-        return;
-    }
-    dialog->findChild<QAbstractButton *>("newListItemButton"_s)->click();
-    auto *list = dialog->findChild<QListWidget *>();
-    list->item(list->count() - 1)->setText("zzz"_s);
-}
-
 } // namespace
 
 /// That a contents edit, the property editor, the undo list and the saved form say the same.
@@ -125,7 +111,9 @@ private slots:
         const int steps = history->count();
         const QString before = DesignerHost::save(form);
         QVERIFY(edit(form, control, kind.entry, [](QDialog *dialog) {
-            addSomething(dialog);
+            addEntries(dialog);
+            if (auto *columns = dialog->findChild<QSpinBox *>("colCounts"_s))
+                columns->setValue(1);
             accept(dialog);
         }));
         compareRows(control);
@@ -158,8 +146,7 @@ private slots:
         auto *comboBox = qobject_cast<QComboBox *>(drop(form, "ComboBox"));
         form->cursor()->setWidgetProperty(comboBox, "maxCount"_s, 2);
         QVERIFY(edit(form, comboBox, "Edit Items", [](QDialog *dialog) {
-            for (int i = 0; i < 4; ++i)
-                addSomething(dialog);
+            addEntries(dialog);
             press(dialog, QDialogButtonBox::Ok);
         }));
         QCOMPARE(comboBox->count(), 2);

@@ -3,27 +3,6 @@
 
 #include <sorrel/SrMatrixButtons.h>
 
-namespace {
-
-int repaints(QWidget *widget, const std::function<void()> &action)
-{
-    struct Counter : QObject {
-        int count = 0;
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            count += event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint;
-            return false;
-        }
-    } counter;
-    QCoreApplication::processEvents();
-    widget->installEventFilter(&counter);
-    action();
-    QCoreApplication::processEvents();
-    return counter.count;
-}
-
-} // namespace
-
 /// Every control as a user meets it: taken from the widget box, edited, undone, saved and opened again.
 class TestControls : public HostTest {
     Q_OBJECT
@@ -88,11 +67,13 @@ private slots:
         QTRY_COMPARE(editor->object(), static_cast<QObject *>(widget));
         // A property that no widget has: Designer ignores it, so the repaint is the descriptor's.
         m_log->allow(".*noSuchProperty.*"_s);
-        const int count = repaints(widget, [editor] {
-            QMetaObject::invokeMethod(
-                editor, "propertyChanged", Q_ARG(QString, "noSuchProperty"_s), Q_ARG(QVariant, QVariant(1)));
-        });
-        QCOMPARE(count > 0, watches);
+        EventCounter repaints({QEvent::UpdateRequest, QEvent::Paint});
+        QCoreApplication::processEvents();
+        widget->installEventFilter(&repaints);
+        QMetaObject::invokeMethod(
+            editor, "propertyChanged", Q_ARG(QString, "noSuchProperty"_s), Q_ARG(QVariant, QVariant(1)));
+        QCoreApplication::processEvents();
+        QCOMPARE(repaints.count > 0, watches);
     }
 
     void resourceActivationReappliesPushButtonTextsOnly()

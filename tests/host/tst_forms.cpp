@@ -5,12 +5,12 @@ namespace {
 
 QString widget(const char *control, const QString &body)
 {
-    return "<widget class=\"Vexa::"_s + QLatin1String(control) + "\" name=\"w\">"_s + body + "</widget>"_s;
+    return "<widget class=\"Vexa::%1\" name=\"w\">%2</widget>"_s.arg(QLatin1String(control), body);
 }
 
 QString prop(const char *name, const char *value)
 {
-    return "<property name=\""_s + QLatin1String(name) + "\">"_s + QLatin1String(value) + "</property>"_s;
+    return "<property name=\"%1\">%2</property>"_s.arg(QLatin1String(name), QLatin1String(value));
 }
 
 QString item(const QString &body) { return "<item>"_s + body + "</item>"_s; }

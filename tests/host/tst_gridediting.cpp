@@ -311,7 +311,8 @@ private slots:
         QWidget *matrix = drop(form, "MatrixPushButtons", 2, 2, "a,b,c,d");
         QCoreApplication::processEvents();
         QWidget *other = HostTest::drop(form, "CmdButton", QPoint(200, 200));
-        ModalityCounter buttons, others;
+        const QSet<int> told{QEvent::WindowBlocked, QEvent::WindowUnblocked};
+        EventCounter buttons(told), others(told);
         const auto children = matrix->findChildren<QWidget *>();
         QVERIFY(children.size() >= 4);
         for (QWidget *child : children)

@@ -18,68 +18,71 @@ class TestGrowth : public EditingTest {
     /// Those of which the size hint follows the contents.
     static void addGrowing() { addRows(contentsControls, combosEnd); }
     /// A form with the row's control on it, of the size that it asks for.
-    QWidget *dropRow(FormWindow *&form)
+    void dropRow()
     {
-        form = newForm();
-        QWidget *control = drop(form, currentRow(contentsControls).name);
-        form->cursor()->setWidgetProperty(control, "geometry"_s, QRect(QPoint(20, 30), control->sizeHint()));
-        form->commandHistory()->setClean();
-        return control;
+        m_form = newForm();
+        m_control = drop(m_form, currentRow(contentsControls).name);
+        setGeometry(QRect(QPoint(20, 30), m_control->sizeHint()));
+        m_form->commandHistory()->setClean();
     }
-    void fill(FormWindow *form, QWidget *control)
+    void setGeometry(const QRect &geometry)
     {
-        const int entriesBefore = form->commandHistory()->count();
-        QVERIFY(edit(form, control, currentRow(contentsControls).entry, [](QDialog *dialog) {
+        m_form->cursor()->setWidgetProperty(m_control, "geometry"_s, geometry);
+    }
+    void fill()
+    {
+        const int steps = m_form->commandHistory()->count();
+        QVERIFY(edit(m_form, m_control, currentRow(contentsControls).entry, [](QDialog *dialog) {
             addEntries(dialog);
             accept(dialog);
         }));
-        QCOMPARE(form->commandHistory()->count(), entriesBefore + 1);
+        QCOMPARE(m_form->commandHistory()->count(), steps + 1);
     }
+
+    FormWindow *m_form = nullptr;
+    QWidget *m_control = nullptr;
 
 private slots:
     void freeControlGrowsToItsHint_data() { addGrowing(); }
     void freeControlGrowsToItsHint()
     {
-        FormWindow *form = nullptr;
-        QWidget *control = dropRow(form);
-        const QSize sizeBefore = control->size();
-        const State before(form, control, place);
-        fill(form, control);
-        QVERIFY(control->size() != sizeBefore);
-        QCOMPARE(control->size(), control->sizeHint().expandedTo(sizeBefore));
-        checkHistory(form, control, place, before);
+        dropRow();
+        const QSize sizeBefore = m_control->size();
+        const State before(m_form, m_control, place);
+        fill();
+        QVERIFY(m_control->size() != sizeBefore);
+        QCOMPARE(m_control->size(), m_control->sizeHint().expandedTo(sizeBefore));
+        checkHistory(m_form, m_control, place, before);
     }
 
     void chosenSizeStaysWhereThereIsRoomOrNothingIsAdded_data() { addGrowing(); }
     void chosenSizeStaysWhereThereIsRoomOrNothingIsAdded()
     {
-        FormWindow *form = nullptr;
-        QWidget *control = dropRow(form);
+        dropRow();
         const QRect larger(10, 10, 580, 480), smaller(10, 10, 30, 20);
-        form->cursor()->setWidgetProperty(control, "geometry"_s, larger);
-        fill(form, control);
-        QCOMPARE(control->geometry(), larger);
-        form->cursor()->setWidgetProperty(control, "geometry"_s, smaller);
-        QVERIFY(edit(form, control, currentRow(contentsControls).entry, [](QDialog *dialog) {
+        setGeometry(larger);
+        fill();
+        QCOMPARE(m_control->geometry(), larger);
+        setGeometry(smaller);
+        QVERIFY(edit(m_form, m_control, currentRow(contentsControls).entry, [](QDialog *dialog) {
             if (auto *rows = dialog->findChild<QSpinBox *>("rowCounts"_s))
                 rows->setValue(rows->value() - 1);
             else
                 press(dialog, "deleteListItemButton");
             accept(dialog);
         }));
-        QCOMPARE(control->geometry(), smaller);
+        QCOMPARE(m_control->geometry(), smaller);
     }
 
     void layoutDecidesOfTheRest_data() { addGrowing(); }
     void layoutDecidesOfTheRest()
     {
-        FormWindow *form = nullptr;
-        QWidget *control = dropRow(form);
-        DesignerHost::select(form, form->mainContainer());
-        QVERIFY(trigger(form, form->mainContainer(), "Lay Out Vertically"));
-        DesignerHost::select(form, control);
-        fill(form, control);
-        QCOMPARE(DesignerHost::save(form).count("name=\"geometry\""_s), 1); // of the form
+        dropRow();
+        DesignerHost::select(m_form, m_form->mainContainer());
+        QVERIFY(trigger(m_form, m_form->mainContainer(), "Lay Out Vertically"));
+        DesignerHost::select(m_form, m_control);
+        fill();
+        QCOMPARE(DesignerHost::save(m_form).count("name=\"geometry\""_s), 1); // of the form
     }
 };
 

@@ -10,8 +10,6 @@ class TestSorrelForm : public QuietTest {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(m_folder.isValid()); }
-
     void examplesAreGood()
     {
         const QStringList examples = exampleForms();
@@ -190,10 +188,8 @@ private slots:
     {
         QStringList files;
         for (int i = 0; i < 30; ++i) {
-            files += m_folder.filePath("many-%1.ui"_s.arg(i));
-            QFile file(files.last());
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(form(i % 7 == 0 ? empty("QNothing") : empty("Vexa::Angle")));
+            const QByteArray text = form(empty(i % 7 == 0 ? "QNothing" : "Vexa::Angle"));
+            files += write(text, "many-%1.ui"_s.arg(i));
         }
         files.insert(11, "absent.ui"_s);
         for (const QStringList &options : {QStringList(), words("--json")}) {
@@ -342,9 +338,9 @@ private:
     {
         QTest::newRow(name) << text << words(kinds);
     }
-    QString write(const QByteArray &text)
+    QString write(const QByteArray &text, const QString &name = "form.ui"_s)
     {
-        QString fileName = m_folder.filePath("form.ui"_s);
+        QString fileName = m_folder.filePath(name);
         QFile file(fileName);
         file.open(QIODevice::WriteOnly);
         file.write(text);

@@ -62,28 +62,25 @@ private slots:
     /// Whoever edits the form sees where buttons are to come, whoever uses it does not.
     void emptyControlsSaySoInTheEditorOnly()
     {
-        const auto colours = [](QWidget *control) {
-            QSet<QRgb> found;
+        const auto isPlain = [](QWidget *control) {
             QImage image;
             for (QWidget *child : control->findChildren<QWidget *>()) {
                 if (child->inherits("Vexa::ButtonGrid"))
                     image = child->grab().toImage();
             }
-            for (int y = 0; y < image.height(); ++y) {
-                for (int x = 0; x < image.width(); ++x)
-                    found.insert(image.pixel(x, y));
-            }
-            return found.size();
+            QImage plain = image;
+            plain.fill(image.pixelColor(0, 0));
+            return image == plain;
         };
         for (const char *kind : {"OptionButtons", "OptionRadios"}) {
             FormWindow *form = newForm();
             QWidget *control = drop(form, kind);
             control->resize(control->sizeHint());
-            QVERIFY(colours(control) > 1);
+            QVERIFY(!isPlain(control));
             const std::unique_ptr<QWidget> outside(
                 form->core()->widgetFactory()->createWidget("Vexa::"_s + QLatin1String(kind)));
             outside->resize(outside->sizeHint());
-            QCOMPARE(colours(outside.get()), 1);
+            QVERIFY(isPlain(outside.get()));
         }
     }
 
@@ -93,16 +90,15 @@ private slots:
         FormWindow *form = newForm();
         auto *group = qobject_cast<Vexa::DrawbackBoxGroup *>(drop(form, "DrawbackBoxGroup"));
         QVERIFY(trigger(form, group, "Insert Page After Current Page"));
-        const auto saved = [form] { return DesignerHost::save(form); };
         const QString property = "currentPageTitle"_s;
         DesignerHost::select(form, group);
-        const QString before = saved();
+        const QString before = DesignerHost::save(form);
         const int steps = form->commandHistory()->count();
         form->cursor()->setWidgetProperty(
             group, property, QVariant::fromValue(qdesigner_internal::PropertySheetStringValue("Holes"_s)));
         QCOMPARE(group->widget(1)->windowTitle(), "Holes"_s);
         QCOMPARE(form->commandHistory()->count(), steps + 1);
-        const QString after = saved();
+        const QString after = DesignerHost::save(form);
         QCOMPARE(after.count("<string>Holes</string>"_s), 1);
         QVERIFY(!after.contains(property));
         checkUndo(form, before, after);
@@ -122,8 +118,7 @@ private slots:
         auto *group = qobject_cast<Vexa::DrawbackBoxGroup *>(drop(form, "DrawbackBoxGroup"));
         group->setGeometry(10, 10, 250, 300);
         QVERIFY(trigger(form, group, "Insert Page After Current Page"));
-        const auto saved = [form] { return DesignerHost::save(form); };
-        const QString before = saved();
+        const QString before = DesignerHost::save(form);
         QVERIFY(!before.contains("windowTitle"_s));
         Vexa::DrawbackBox *box = group->box(1);
         QTRY_COMPARE(box->shownTitle(), "Page 2"_s);
@@ -138,7 +133,7 @@ private slots:
             QCOMPARE(box->shownTitle(), QLatin1String(end == Qt::Key_Return ? "Holes" : "Page 2"));
         }
         QCOMPARE(form->commandHistory()->index(), 3); // drop, page, title
-        const QString after = saved();
+        const QString after = DesignerHost::save(form);
         QVERIFY(after.contains("<string>Holes</string>"_s));
         checkUndo(form, before, after);
     }
