@@ -13,22 +13,18 @@ struct ContentsControl {
     const char *undoText;
     const char *rows;
 };
+constexpr char optionRows[] = "text icon tooltip data", cellRows[] = "text icon toolTip action";
 inline const ContentsControl contentsControls[] = {
     {"ComboBox", "Edit Items", "Edit ComboBox", "", "text icon action"},
     {"CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", "", "text toolTip"},
     {"OptionComboBox", "Edit Items", "Edit Option ComboBox", "", "text icon data"},
-    {"OptionButtons", "Edit Buttons", "Edit OptionButtons", "Change OptionButtons Contents",
-        "text icon tooltip data"},
-    {"OptionRadios", "Edit Buttons", "Edit OptionRadios", "Change OptionRadios Contents",
-        "text icon tooltip data"},
-    {"MatrixPushButtons", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents",
-        "text icon toolTip action"},
-    {"MatrixRadioButtons", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents",
-        "text icon toolTip action"},
-    {"MatrixCheckBoxes", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents",
-        "text icon toolTip action"},
+    {"OptionButtons", "Edit Buttons", "Edit OptionButtons", "Change OptionButtons Contents", optionRows},
+    {"OptionRadios", "Edit Buttons", "Edit OptionRadios", "Change OptionRadios Contents", optionRows},
+    {"MatrixPushButtons", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents", cellRows},
+    {"MatrixRadioButtons", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents", cellRows},
+    {"MatrixCheckBoxes", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents", cellRows},
     {"MatrixPopButtons", "Edit Buttons", "Edit Matrix PopButtons", "Change MatrixPopButtons Contents",
-        "text icon toolTip action"},
+        cellRows},
     {"DrawbackBoxGroup", "Edit DrawbackBox", "Edit DrawbackBoxGroup", "Change OptionRadios Contents",
         "text tooltip data"},
 };
@@ -86,20 +82,6 @@ protected:
         return withDialogs([&] { trigger(form, control, entry); }, use);
     }
 
-    /// The title of the dialog that a double click on the selected control opens.
-    static QString titleAfterDoubleClick(FormWindow *form, QWidget *control)
-    {
-        QString title;
-        const auto doubleClick = [&] {
-            DesignerHost::select(form, control);
-            QTest::mouseClick(control, Qt::LeftButton);
-            QTest::mouseDClick(control, Qt::LeftButton);
-            QTRY_VERIFY(!title.isNull());
-        };
-        withDialogs(doubleClick, [&title](QDialog *dialog) { title = dialog->windowTitle(); });
-        return title;
-    }
-
     /// How often the context menu of a control has this entry.
     int entries(FormWindow *form, QWidget *control, const char *entry)
     {
@@ -109,15 +91,10 @@ protected:
         return texts.count(QString::fromUtf8(entry));
     }
 
-    /// The rows of the pane, which the button for it shows.
-    static QStringList shownPaneRows(QDialog *dialog)
+    static PaneDriver openPane(QDialog *dialog)
     {
-        const PaneDriver pane(dialog);
-        const auto *toggle = dialog->findChild<QPushButton *>("showPropertiesButton"_s);
-        const bool hidden = !pane.tree()->isVisible() && toggle->text() == "Properties &<<"_s;
         press(dialog, "showPropertiesButton");
-        const bool shown = pane.tree()->isVisible() && toggle->text() == "Properties &>>"_s;
-        return hidden && shown ? pane.names() : QStringList();
+        return PaneDriver(dialog);
     }
 
     /// The paths of all rows of a pane, sub rows included.

@@ -33,10 +33,8 @@ const Form forms[] = {
 void dump(const QAccessibleInterface *object, int depth, QStringList &lines)
 {
     const auto role = QMetaEnum::fromType<QAccessible::Role>().valueToKey(object->role());
-    lines += (QString(depth, QLatin1Char(' ')) + QLatin1String(role) + QLatin1Char(' ')
-        + object->text(QAccessible::Name))
-                 .trimmed()
-                 .prepend(QString(depth, QLatin1Char(' ')));
+    const QString text = "%1 %2"_s.arg(QLatin1String(role), object->text(QAccessible::Name));
+    lines += QString(depth, QLatin1Char(' ')) + text.trimmed();
     for (int i = 0; i < object->childCount(); ++i) {
         const QAccessibleInterface *child = object->child(i);
         if (child && child->object() && child->object()->isWidgetType())

@@ -121,8 +121,7 @@ private slots:
             const QSize narrow = dialog->size();
             const int gridWidth = table->width();
             for (int round = 0; round < 2; ++round) {
-                press(dialog, "showPropertiesButton");
-                const PaneDriver pane(dialog);
+                const PaneDriver pane = openPane(dialog);
                 QTRY_VERIFY(pane.tree()->isVisible());
                 constexpr int forValues = 150;
                 QTRY_VERIFY(pane.tree()->columnWidth(1) >= forValues);
@@ -159,10 +158,9 @@ private slots:
         QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
             QCOMPARE(texts(dialog), "a,b/\n\t, "_s);
             typeIntoCell(dialog, 0, 1, "in place"_s);
-            press(dialog, "showPropertiesButton");
             spin(dialog, "rowCounts")->setValue(3);
             table(dialog)->setCurrentCell(2, 0);
-            PaneDriver pane(dialog);
+            PaneDriver pane = openPane(dialog);
             QVERIFY(pane.paste("text"_s, "\u05e9 \"1\""_s));
             QVERIFY(pane.paste("toolTip"_s, "tip"_s));
             QVERIFY(pane.paste("action"_s, "go"_s));
@@ -218,8 +216,7 @@ private slots:
             FormWindow *form = newForm();
             QWidget *matrix = drop(form, name, 3, 3, "a,b,c,d,e,f,g,h,i");
             QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
-                press(dialog, "showPropertiesButton");
-                PaneDriver pane(dialog);
+                PaneDriver pane = openPane(dialog);
                 table(dialog)->setCurrentCell(resize.start.y(), resize.start.x());
                 spin(dialog, resize.spinBox)->setValue(resize.value);
                 QCOMPARE(QPoint(table(dialog)->currentColumn(), table(dialog)->currentRow()), resize.current);
@@ -242,8 +239,6 @@ private slots:
             spin(dialog, "rowCounts")->setValue(2);
             spin(dialog, "rowCounts")->setValue(3);
             QCOMPARE(texts(dialog), "a/b/"_s);
-            spin(dialog, "rowCounts")->setValue(100);
-            QCOMPARE(table(dialog)->rowCount(), 99);
             spin(dialog, "rowCounts")->setValue(2);
             spin(dialog, "colCounts")->setValue(2);
             press(dialog, "okButton");
@@ -277,9 +272,8 @@ private slots:
                 typeIntoCell(dialog, 0, 1, QString());
                 typeIntoCell(dialog, 0, 0, "b"_s);
                 typeIntoCell(dialog, 0, 0, "a"_s);
-                press(dialog, "showPropertiesButton");
-                QVERIFY(PaneDriver(dialog).paste("text"_s, "c"_s));
-                QVERIFY(PaneDriver(dialog).paste("text"_s, "a"_s));
+                PaneDriver pane = openPane(dialog);
+                QVERIFY(pane.paste("text"_s, "c"_s) && pane.paste("text"_s, "a"_s));
                 press(dialog, "okButton");
             }));
             QCOMPARE(form->commandHistory()->count(), steps);
@@ -295,8 +289,7 @@ private slots:
         QWidget *matrix = drop(form, "MatrixPushButtons", 1, 1, "a");
         matrix->setProperty("iconList", QStringList{pipe});
         QVERIFY(edit(form, matrix, [&](QDialog *dialog) {
-            press(dialog, "showPropertiesButton");
-            PaneDriver pane(dialog);
+            PaneDriver pane = openPane(dialog);
             QCOMPARE(pane.valueText("icon"_s), "pipe.png"_s);
             QVERIFY(pane.open("icon/Normal Off"_s));
             press(dialog, "okButton");

@@ -27,8 +27,7 @@ class TestKeptFields : public EditingTest {
         edit(form, control, kind.entry, [](QDialog *dialog) {
             if (dialog->findChild<QAbstractButton *>("newListItemButton"_s))
                 press(dialog, "newListItemButton");
-            press(dialog, "showPropertiesButton");
-            QVERIFY(PaneDriver(dialog).paste("text"_s, "a"_s));
+            QVERIFY(openPane(dialog).paste("text"_s, "a"_s));
             accept(dialog);
         });
         return control;
@@ -54,8 +53,7 @@ class TestKeptFields : public EditingTest {
     {
         return edit(form, control, kind.entry, [&](QDialog *dialog) {
             dialog->resize(900, 1200);
-            press(dialog, "showPropertiesButton");
-            PaneDriver pane(dialog);
+            PaneDriver pane = openPane(dialog);
             for (const QString &path : rowPaths(pane)) {
                 if (isOne(path))
                     QVERIFY2(change(pane, path), qPrintable(path));

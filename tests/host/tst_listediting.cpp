@@ -75,10 +75,16 @@ private slots:
         FormWindow *form = newForm();
         QWidget *control = HostTest::drop(form, kind.name);
         QCOMPARE(entries(form, control, kind.entry), 1);
+        DesignerHost::select(form, control);
         QWidget *inside = control->childAt(5, control->height() / 2);
-        QCOMPARE(titleAfterDoubleClick(form, inside ? inside : control), QLatin1String(kind.title));
-
-        QVERIFY(edit(form, control, kind.entry, [&](QDialog *dialog) {
+        bool shown = false;
+        const auto doubleClick = [&] {
+            QTest::mouseClick(inside ? inside : control, Qt::LeftButton);
+            QTest::mouseDClick(inside ? inside : control, Qt::LeftButton);
+            QTRY_VERIFY(shown);
+        };
+        withDialogs(doubleClick, [&](QDialog *dialog) {
+            shown = true;
             QCOMPARE(dialog->windowTitle(), QLatin1String(kind.title));
             QCOMPARE(dialog->parentWidget(), control->window());
             if (const auto *table = dialog->findChild<QTableWidget *>()) {
@@ -99,8 +105,14 @@ private slots:
                     QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
                 press(dialog, "newListItemButton"); // without an item the pane has no rows
             }
-            QCOMPARE(shownPaneRows(dialog), words(kind.rows));
-        }));
+            const auto *button = dialog->findChild<QPushButton *>("showPropertiesButton"_s);
+            QCOMPARE(button->text(), "Properties &<<"_s);
+            QVERIFY(!PaneDriver(dialog).tree()->isVisible());
+            const PaneDriver pane = openPane(dialog);
+            QCOMPARE(button->text(), "Properties &>>"_s);
+            QVERIFY(pane.tree()->isVisible());
+            QCOMPARE(pane.names(), words(kind.rows));
+        });
     }
 
     void everyFieldIsEditedUndoneAndSaved_data() { addLists(); }
@@ -118,8 +130,7 @@ private slots:
             press(dialog, "newListItemButton");
             press(dialog, "newListItemButton");
             QCOMPARE(dialog->findChild<QListWidget *>()->item(0)->text(), "New Item"_s);
-            press(dialog, "showPropertiesButton");
-            PaneDriver pane(dialog);
+            PaneDriver pane = openPane(dialog);
             for (const QString &row : words(kind.rows)) {
                 const bool icon = row == "icon"_s;
                 const QString value = icon ? image : row + " \"1\" \u05e9\u05dc \U0001f600"_s;
@@ -150,10 +161,8 @@ private slots:
             press(dialog, "newListItemButton");
             press(dialog, "deleteListItemButton");
             dialog->findChild<QListWidget *>()->setCurrentRow(0);
-            press(dialog, "showPropertiesButton");
-            PaneDriver pane(dialog);
-            QVERIFY(pane.paste("text"_s, "other"_s));
-            QVERIFY(pane.paste("text"_s, "a"_s));
+            PaneDriver pane = openPane(dialog);
+            QVERIFY(pane.paste("text"_s, "other"_s) && pane.paste("text"_s, "a"_s));
             press(dialog, QDialogButtonBox::Ok);
         }));
         QVERIFY(edit(form, control, kind.entry, [](QDialog *dialog) {
@@ -173,8 +182,7 @@ private slots:
         QWidget *comboBox = drop(form, "ComboBox");
         QVERIFY(edit(form, comboBox, "Edit Items", [&](QDialog *dialog) {
             press(dialog, "newListItemButton");
-            press(dialog, "showPropertiesButton");
-            PaneDriver pane(dialog);
+            PaneDriver pane = openPane(dialog);
             QVERIFY(pane.paste("text/comment"_s, "say so"_s));
             QVERIFY(pane.paste("text/disambiguation"_s, "noun"_s));
             QVERIFY(pane.pastePath("icon/Disabled Off"_s, image));
@@ -263,8 +271,7 @@ private slots:
         bool shown = false;
         QVERIFY(edit(form, control, "Edit Items", [&](QDialog *dialog) {
             press(dialog, "newListItemButton");
-            press(dialog, "showPropertiesButton");
-            PaneDriver pane(dialog);
+            PaneDriver pane = openPane(dialog);
             QVERIFY(pane.open("icon"_s));
             const QPointer<QDialog> open = dialog;
             const auto choose = [&] {

@@ -113,8 +113,7 @@ private slots:
     {
         editActive([](QDialog *dialog) {
             fill(dialog);
-            press(dialog, "showPropertiesButton");
-            PaneDriver pane(dialog);
+            PaneDriver pane = openPane(dialog);
             // With a value there is something to reset.
             for (const QString &row : pane.names()) {
                 QVERIFY(row == "icon"_s ? pane.pastePath(row, "a.png"_s) : pane.paste(row, "a"_s));

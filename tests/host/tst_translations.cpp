@@ -98,17 +98,6 @@ private slots:
         QVERIFY(QCoreApplication::removeTranslator(&translator));
         QCOMPARE(menu->preferredEditAction()->text(), inEnglish);
     }
-
-    /// Without a catalogue they are the same, and the drawback boxes' one takes no other's translation.
-    void theTwoEqualUndoTextsAreTwoEntries()
-    {
-        const char *text = "Change OptionRadios Contents";
-        QCOMPARE(QCoreApplication::translate("Command", text, "drawback boxes"), QLatin1String(text));
-        QTranslator translator;
-        QVERIFY(translator.load("sorrelplugin_de"_s, QStringLiteral(CATALOGUES)));
-        QVERIFY(
-            translator.translate("Command", text) != translator.translate("Command", text, "drawback boxes"));
-    }
 };
 
 QTEST_MAIN(TestTranslations)
