@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "testdata.h"
+
 // Pieces of forms, for what no form editor writes.
 
 /// A form of one QWidget named "Form" with this inside.

@@ -135,8 +135,7 @@ private slots:
     void propertyEditorShowsThePageThatInsertingMadeCurrent()
     {
         DesignerHost::select(m_form, m_group);
-        auto *editor = m_host->core()->propertyEditor();
-        QTRY_COMPARE(editor->object(), m_group);
+        QTRY_COMPARE(m_host->core()->propertyEditor()->object(), m_group);
         const auto shown = [this] { return valueCell("currentIndex"_s).data().toString(); };
         QCOMPARE(shown(), "0"_s);
         QVERIFY(trigger(m_form, m_group, "Insert Page After Current Page"));

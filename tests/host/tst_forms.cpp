@@ -26,8 +26,7 @@ private slots:
     void examplesAreStable_data()
     {
         QTest::addColumn<QString>("fileName");
-        const QDir examples(QStringLiteral(EXAMPLES));
-        const QFileInfoList files = examples.entryInfoList({"*.ui"_s});
+        const QFileInfoList files = QDir(QStringLiteral(EXAMPLES)).entryInfoList({"*.ui"_s});
         QVERIFY(files.size() >= 4);
         for (const QFileInfo &file : files)
             QTest::newRow(qPrintable(file.fileName())) << file.filePath();

@@ -67,6 +67,9 @@ private slots:
     {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QStringList>("kinds");
+        const auto add = [](const char *name, const QByteArray &text, const char *kinds) {
+            QTest::newRow(name) << text << words(kinds);
+        };
         add("empty file", "", "error");
         add("other XML", "<html><body/></html>", "error");
         add("cut off", form("<widget class=\"QPushButton\" name=\"b\">").left(90), "error");
@@ -91,9 +94,8 @@ private slots:
             "repeated-name");
 
         const auto addWith
-            = [](const char *name, const char *control, const QByteArray &inside, const char *kinds = "") {
-                  add(name, form(containing(control, inside)), kinds);
-              };
+            = [&add](const char *name, const char *control, const QByteArray &inside,
+                  const char *kinds = "") { add(name, form(containing(control, inside)), kinds); };
         const QByteArray number = "<number>1</number>", text = string("text", "a");
         addWith("unknown property", "Vexa::ComboBox", prop("nothing", number), "unknown-property");
         addWith("value of another type", "QLabel", prop("geometry", number), "lost");
@@ -209,9 +211,8 @@ private slots:
         const auto row = [](const QStringList &arguments, const QString &said) {
             QTest::newRow(qPrintable(arguments.join(QLatin1Char(' ')))) << arguments << said;
         };
-        row(words("check absent.ui"), "absent.ui"_s);
-        row(words("render absent.ui a.png"), "absent.ui"_s);
-        row(words("normalize absent.ui"), "absent.ui"_s);
+        for (const char *arguments : {"check absent.ui", "render absent.ui a.png", "normalize absent.ui"})
+            row(words(arguments), "absent.ui"_s);
         row({"render"_s, exampleForms().first(), "/absent/a.png"_s}, "/absent/a.png"_s);
         const QString pipe = m_folder.filePath("pipe.ui"_s);
         QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
@@ -334,10 +335,6 @@ private slots:
     }
 
 private:
-    static void add(const char *name, const QByteArray &text, const char *kinds)
-    {
-        QTest::newRow(name) << text << words(kinds);
-    }
     QString write(const QByteArray &text, const QString &name = "form.ui"_s)
     {
         QString fileName = m_folder.filePath(name);

@@ -20,8 +20,8 @@ QString nameOf(const QWidget *widget)
 
 void pressKey(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
 
-/// Where the keyboard is after each press of \a key, until it is at \a end, in the way of "a b c".
-QString way(Qt::Key key, const QWidget *end)
+/// Where the keyboard is after each press of \a key, until it is at \a end.
+QStringList way(Qt::Key key, const QWidget *end)
 {
     QStringList names;
     constexpr int enough = 30;
@@ -29,14 +29,7 @@ QString way(Qt::Key key, const QWidget *end)
         pressKey(key);
         names += nameOf(QApplication::focusWidget());
     } while (QApplication::focusWidget() != end && names.size() < enough);
-    return names.join(QLatin1Char(' '));
-}
-
-QString reversed(const QString &way)
-{
-    QStringList names = way.split(QLatin1Char(' '));
-    std::reverse(names.begin(), names.end());
-    return names.join(QLatin1Char(' '));
+    return names;
 }
 
 /// The widgets of an open editor that take the keyboard, from left to right.
@@ -98,13 +91,14 @@ private slots:
 
             QWidget *contents = fill(dialog);
             press(dialog, "showPropertiesButton");
-            const QString others = grid
-                ? "rowCounts colCounts showPropertiesButton pane OK Cancel tab"_s
-                : "newListItemButton deleteListItemButton moveListItemUpButton moveListItemDownButton "
-                  "showPropertiesButton pane OK Cancel"_s;
+            QStringList others = words(grid
+                    ? "rowCounts colCounts showPropertiesButton pane OK Cancel tab"
+                    : "newListItemButton deleteListItemButton moveListItemUpButton moveListItemDownButton "
+                      "showPropertiesButton pane OK Cancel");
             contents->setFocus();
-            QCOMPARE(way(Qt::Key_Tab, contents), others + QLatin1Char(' ') + start);
-            QCOMPARE(way(Qt::Key_Backtab, contents), reversed(others) + QLatin1Char(' ') + start);
+            QCOMPARE(way(Qt::Key_Tab, contents), others + QStringList(start));
+            std::reverse(others.begin(), others.end());
+            QCOMPARE(way(Qt::Key_Backtab, contents), others + QStringList(start));
         });
     }
 
@@ -115,9 +109,8 @@ private slots:
             fill(dialog);
             PaneDriver pane = openPane(dialog);
             // With a value there is something to reset.
-            for (const QString &row : pane.names()) {
+            for (const QString &row : pane.names())
                 QVERIFY(row == "icon"_s ? pane.pastePath(row, "a.png"_s) : pane.paste(row, "a"_s));
-            }
             for (const QString &path : rowPaths(pane)) {
                 pane.tree()->setFocus();
                 pane.tree()->setCurrentIndex(pane.value(path));
