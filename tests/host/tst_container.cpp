@@ -106,6 +106,7 @@ private slots:
         m_group->setGeometry(10, 10, 250, 300);
         QVERIFY(trigger(m_form, m_group, "Insert Page After Current Page"));
         QWidget *onPage = dropOn(m_group->widget(1), m_form);
+        QVERIFY(onPage);
         QWidget *beside = drop(m_form, "Line", {400, 300});
         QWidget *target = selected == "form"_s ? m_form->mainContainer()
             : selected == "beside"_s           ? beside

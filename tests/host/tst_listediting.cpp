@@ -68,8 +68,8 @@ class TestListEditing : public EditingTest {
     static void addLists() { addRows(contentsControls, 0, listsEnd); }
 
 private slots:
-    void dialogOpensFromMenuAndDoubleClick_data() { addRows(contentsControls); }
-    void dialogOpensFromMenuAndDoubleClick()
+    void doubleClickOpensTheDialog_data() { addRows(contentsControls); }
+    void doubleClickOpensTheDialog()
     {
         const ContentsControl &kind = currentRow(contentsControls);
         FormWindow *form = newForm();
