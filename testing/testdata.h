@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QtCore/QFile>
-#include <QtCore/QStringList>
 #include <QtGui/QImage>
 #include <QtTest/QtTest>
+
+/// A QString of UTF-8.
+inline QString operator""_s(const char *text, std::size_t size) { return QString::fromUtf8(text, int(size)); }
 
 /// The words of a text, one string each; none for an empty text.
 inline QStringList words(const char *text)
@@ -48,12 +49,13 @@ inline bool saveImage(const QString &path, Qt::GlobalColor colour = Qt::red)
     return image.save(path);
 }
 
-/// A test row for each row of \a table, with the name that stands first in it.
+/// A test row for each row of \a table, or for those from \a first to before \a end, with the name that
+/// stands first in it.
 template <typename Row, int count>
-void addRows(const Row (&table)[count])
+void addRows(const Row (&table)[count], int first = 0, int end = count)
 {
     QTest::addColumn<int>("row");
-    for (int i = 0; i < count; ++i)
+    for (int i = first; i < end; ++i)
         QTest::newRow(table[i].name) << i;
 }
 

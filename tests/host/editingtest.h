@@ -4,30 +4,32 @@
 #include "dialogs.h"
 #include "hosttest.h"
 #include "panedriver.h"
-#include "testdata.h"
 
-#include <QtCore/QPointer>
-#include <QtCore/QTemporaryDir>
-#include <QtWidgets/QAbstractButton>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QMenu>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QTreeView>
-#include <QtWidgets/QUndoStack>
-
-#include <functional>
-
-/// Counts how often the objects it watches are told that a modal dialog came or went.
-class ModalityCounter final : public QObject {
-public:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        count += event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked;
-        return false;
-    }
-    int count = 0;
+/// A control with contents, its menu's entry, what its editor is called, and the rows of the editor's pane.
+struct ContentsControl {
+    const char *name;
+    const char *entry;
+    const char *title;
+    const char *undoText;
+    const char *rows;
 };
+constexpr char optionRows[] = "text icon tooltip data", cellRows[] = "text icon toolTip action";
+inline const ContentsControl contentsControls[] = {
+    {"ComboBox", "Edit Items", "Edit ComboBox", "", "text icon action"},
+    {"CheckableTextComboBox", "Edit Items", "Edit Checkable ComboBox", "", "text toolTip"},
+    {"OptionComboBox", "Edit Items", "Edit Option ComboBox", "", "text icon data"},
+    {"OptionButtons", "Edit Buttons", "Edit OptionButtons", "Change OptionButtons Contents", optionRows},
+    {"OptionRadios", "Edit Buttons", "Edit OptionRadios", "Change OptionRadios Contents", optionRows},
+    {"MatrixPushButtons", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents", cellRows},
+    {"MatrixRadioButtons", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents", cellRows},
+    {"MatrixCheckBoxes", "Edit Buttons", "Edit Matrix buttons", "Change MatrixButtons Contents", cellRows},
+    {"MatrixPopButtons", "Edit Buttons", "Edit Matrix PopButtons", "Change MatrixPopButtons Contents",
+        cellRows},
+    {"DrawbackBoxGroup", "Edit DrawbackBox", "Edit DrawbackBoxGroup", "Change OptionRadios Contents",
+        "text tooltip data"},
+};
+// Where in the table the combo boxes end, all controls with one list, and the grids.
+constexpr int combosEnd = 3, listsEnd = 5, gridsEnd = 9;
 
 /// Base of the tests that edit contents in the dialogs of the task menus.
 class EditingTest : public HostTest {
@@ -80,20 +82,6 @@ protected:
         return withDialogs([&] { trigger(form, control, entry); }, use);
     }
 
-    /// The title of the dialog that a double click on the selected control opens.
-    static QString titleAfterDoubleClick(FormWindow *form, QWidget *control)
-    {
-        QString title;
-        const auto doubleClick = [&] {
-            DesignerHost::select(form, control);
-            QTest::mouseClick(control, Qt::LeftButton);
-            QTest::mouseDClick(control, Qt::LeftButton);
-            QTRY_VERIFY(!title.isNull());
-        };
-        withDialogs(doubleClick, [&title](QDialog *dialog) { title = dialog->windowTitle(); });
-        return title;
-    }
-
     /// How often the context menu of a control has this entry.
     int entries(FormWindow *form, QWidget *control, const char *entry)
     {
@@ -103,15 +91,10 @@ protected:
         return texts.count(QString::fromUtf8(entry));
     }
 
-    /// The rows of the pane, which the button for it shows.
-    static QStringList shownPaneRows(QDialog *dialog)
+    static PaneDriver openPane(QDialog *dialog)
     {
-        const PaneDriver pane(dialog);
-        const auto *toggle = dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton"));
-        const bool hidden = !pane.tree()->isVisible() && toggle->text() == QLatin1String("Properties &<<");
         press(dialog, "showPropertiesButton");
-        const bool shown = pane.tree()->isVisible() && toggle->text() == QLatin1String("Properties &>>");
-        return hidden && shown ? pane.names() : QStringList();
+        return PaneDriver(dialog);
     }
 
     /// The paths of all rows of a pane, sub rows included.
@@ -124,6 +107,17 @@ protected:
                 paths += row + QLatin1Char('/') + part;
         }
         return paths;
+    }
+
+    /// Adds three entries, or as many rows.
+    static void addEntries(const QDialog *dialog)
+    {
+        if (auto *rows = dialog->findChild<QSpinBox *>("rowCounts"_s)) {
+            rows->setValue(rows->value() + 3);
+            return;
+        }
+        for (int i = 0; i < 3; ++i)
+            press(dialog, "newListItemButton");
     }
 
     static void press(const QDialog *dialog, QDialogButtonBox::StandardButton button)
@@ -140,7 +134,7 @@ protected:
 
     QString imageFile() const
     {
-        QString path = m_dir.filePath(QStringLiteral("icon.png"));
+        QString path = m_dir.filePath("icon.png"_s);
         saveImage(path);
         return path;
     }

@@ -3,10 +3,40 @@
 
 #include "designerhost.h"
 #include "quiettest.h"
+#include "testdata.h"
 
 #include <private/formwindowbase_p.h>
+#include <private/qdesigner_utils_p.h>
 
-#include <QtWidgets/QAction>
+#include <QtDesigner/QtDesigner>
+
+/// Compares texts line by line, so that a failure shows the first line that differs.
+inline void compareTexts(const QString &actual, const QString &expected)
+{
+    const QStringList actualLines = actual.split(QLatin1Char('\n')),
+                      expectedLines = expected.split(QLatin1Char('\n'));
+    for (int i = 0; i < qMin(actualLines.size(), expectedLines.size()); ++i)
+        QCOMPARE(actualLines.at(i), expectedLines.at(i));
+    QCOMPARE(actualLines.size(), expectedLines.size());
+}
+
+/// Counts the events of some kinds that the objects it watches get.
+class EventCounter final : public QObject {
+public:
+    explicit EventCounter(const QSet<int> &types)
+        : m_types(types)
+    {
+    }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += m_types.contains(event->type());
+        return false;
+    }
+    int count = 0;
+
+private:
+    const QSet<int> m_types;
+};
 
 /// Base of the tests in the embedded Designer: one host for all test functions, no form left over from one to
 /// the next.
@@ -46,7 +76,22 @@ protected:
     /// Drops a control of the plugin, by its name without the namespace.
     QWidget *drop(FormWindow *form, const char *control, const QPoint &position = QPoint(60, 60))
     {
-        return m_host->drop(form, QLatin1String("Vexa::") + QLatin1String(control), position);
+        return m_host->drop(form, "Vexa::"_s + QLatin1String(control), position);
+    }
+    /// Drops a button onto the page of a group, once it has its room; null where it gets none.
+    QWidget *dropOn(QWidget *page, FormWindow *form)
+    {
+        const bool hasRoom = QTest::qWaitFor([page] { return page->isVisible() && page->height() > 20; });
+        return hasRoom ? drop(form, "CmdButton", page->mapTo(form, QPoint(10, 10))) : nullptr;
+    }
+    /// The cell of the property editor's view with the value of a property of what is selected.
+    QModelIndex valueCell(const QString &property) const
+    {
+        const auto *view = m_host->core()->propertyEditor()->findChild<QTreeView *>();
+        const QAbstractItemModel *model = view->model();
+        const QModelIndexList names = model->match(model->index(0, 0), Qt::DisplayRole, property, 1,
+            Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive);
+        return names.isEmpty() ? QModelIndex() : names.first().siblingAtColumn(1);
     }
     /// Triggers the context menu entry with this text; false where there is none to be triggered.
     bool trigger(FormWindow *form, QWidget *widget, const char *entry)
@@ -57,14 +102,15 @@ protected:
         action->trigger();
         return true;
     }
-    /// Compares texts line by line, so that a failure shows the first line that differs.
-    static void compareTexts(const QString &actual, const QString &expected)
+    /// Undoes and redoes the last step of a form, which led from one text of it to the other.
+    static void checkUndo(const FormWindow *form, const QString &before, const QString &after)
     {
-        const QStringList actualLines = actual.split(QLatin1Char('\n')),
-                          expectedLines = expected.split(QLatin1Char('\n'));
-        for (int i = 0; i < qMin(actualLines.size(), expectedLines.size()); ++i)
-            QCOMPARE(actualLines.at(i), expectedLines.at(i));
-        QCOMPARE(actualLines.size(), expectedLines.size());
+        for (int round = 0; round < 2; ++round) {
+            form->commandHistory()->undo();
+            compareTexts(DesignerHost::save(form), before);
+            form->commandHistory()->redo();
+            compareTexts(DesignerHost::save(form), after);
+        }
     }
     template <typename Widget>
     static Widget *find(const FormWindow *form, const QString &name)
@@ -75,6 +121,12 @@ protected:
     std::unique_ptr<DesignerHost> m_host;
 
 protected slots:
+    void init()
+    {
+        QuietTest::init();
+        // Switching the page of a drawback box group is reported.
+        m_log->allow("DrawbackBoxGroupContainerExtension::currentIndexChanged \\d+"_s);
+    }
     void initTestCase()
     {
         init();

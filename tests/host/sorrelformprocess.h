@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QtCore/QDir>
-#include <QtCore/QProcess>
+#include "quiettest.h"
+#include "testdata.h"
 
 #include <csignal>
 #include <sys/resource.h>
@@ -59,10 +59,9 @@ inline QByteArray read(const QString &fileName)
 
 inline QStringList exampleForms()
 {
-    const QDir folder(QStringLiteral(EXAMPLES "/forms"));
     QStringList forms;
-    const QStringList names = folder.entryList({QStringLiteral("*.ui")});
-    for (const QString &name : names)
-        forms += folder.filePath(name);
+    const QFileInfoList files = QDir(QStringLiteral(EXAMPLES "/forms")).entryInfoList({"*.ui"_s});
+    for (const QFileInfo &file : files)
+        forms += file.filePath();
     return forms;
 }

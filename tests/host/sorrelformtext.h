@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QtCore/QByteArray>
+#include "testdata.h"
 
 // Pieces of forms, for what no form editor writes.
 
@@ -19,16 +19,19 @@ inline QByteArray containing(const char *className, const QByteArray &inside)
 }
 inline QByteArray empty(const char *className) { return containing(className, QByteArray()); }
 
-inline QByteArray string(const char *property, const char *value)
+inline QByteArray prop(const char *name, const QByteArray &value)
 {
-    return QByteArray("<property name=\"") + property + "\"><string>" + value + "</string></property>";
+    return QByteArray("<property name=\"") + name + "\">" + value + "</property>";
+}
+inline QByteArray string(const char *name, const QByteArray &value)
+{
+    return prop(name, "<string>" + value + "</string>");
 }
 /// An item as forms had it before there were list properties.
 inline QByteArray item(const QByteArray &properties) { return "<item>" + properties + "</item>"; }
-inline QByteArray stringList(const char *property, const QByteArray &string)
+inline QByteArray stringList(const char *name, const QByteArray &value)
 {
-    return QByteArray("<property name=\"") + property + "\"><stringlist><string>" + string
-        + "</string></stringlist></property>";
+    return prop(name, "<stringlist><string>" + value + "</string></stringlist>");
 }
 
 /// What a form says of a class that Designer does not have.

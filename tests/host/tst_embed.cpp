@@ -9,15 +9,7 @@
 #include "testdata.h"
 #include "texts.h"
 
-#include <QtDesigner/QDesignerFormEditorInterface>
-#include <QtDesigner/QDesignerFormWindowInterface>
-#include <QtDesigner/QDesignerTaskMenuExtension>
-#include <QtDesigner/QExtensionManager>
-
-#include <QtWidgets/QAction>
-#include <QtWidgets/QDialog>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QUndoStack>
+#include <QtDesigner/QtDesigner>
 
 using Norvik::Quenta::Ap::Base;
 using Norvik::Quenta::Ap::Function;
@@ -39,9 +31,9 @@ private slots:
 
     void refusesWhatIsNoForm()
     {
-        m_log->allow(QStringLiteral("Designer: An error has occurred while reading .*"));
+        m_log->allow("Designer: An error has occurred while reading .*"_s);
         QString error;
-        QVERIFY(!m_window->open(QStringLiteral("absent.ui"), &error));
+        QVERIFY(!m_window->open("absent.ui"_s, &error));
         QVERIFY(!error.isEmpty());
         error.clear();
         QVERIFY(!m_window->open(QStringLiteral(EXAMPLES "/../CMakeLists.txt"), &error));
@@ -54,7 +46,7 @@ private slots:
         QVERIFY(openForm("<widget class=\"Vexa::Angle\" name=\"angle\"/>"));
         QString error;
         QVERIFY2(m_window->save(&error), qPrintable(error));
-        QFile file(m_folder.filePath(QStringLiteral("form.ui")));
+        QFile file(m_folder.filePath("form.ui"_s));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readAll().contains("<widget class=\"Vexa::Angle\" name=\"angle\""));
         QVERIFY2(m_window->open(file.fileName(), &error), qPrintable(error));
@@ -76,7 +68,7 @@ private slots:
 
         QVERIFY(openForm("<widget class=\"Vexa::ComboBox\" name=\"box\"><item><property name=\"text\">"
                          "<string>one</string></property></item></widget>"));
-        QWidget *box = m_window->form()->mainContainer()->findChild<QWidget *>(QStringLiteral("box"));
+        QWidget *box = m_window->form()->mainContainer()->findChild<QWidget *>("box"_s);
         QVERIFY(box);
         auto *menu = qt_extension<QDesignerTaskMenuExtension *>(m_window->core()->extensionManager(), box);
         QVERIFY(menu);
@@ -84,7 +76,7 @@ private slots:
         QStringList shown;
         QVERIFY(withDialogs([menu] { menu->preferredEditAction()->trigger(); },
             [&shown](QDialog *dialog) {
-                dialog->findChild<QPushButton *>(QStringLiteral("showPropertiesButton"))->click();
+                dialog->findChild<QPushButton *>("showPropertiesButton"_s)->click();
                 shown = PaneDriver(dialog).names();
             }));
         QCOMPARE(shown, names);
@@ -95,7 +87,7 @@ private:
     /// Opens a form with this inside from a file of its own.
     bool openForm(const QByteArray &inside)
     {
-        QFile file(m_folder.filePath(QStringLiteral("form.ui")));
+        QFile file(m_folder.filePath("form.ui"_s));
         file.open(QIODevice::WriteOnly);
         file.write(formWith(QString::fromLatin1(inside)).toUtf8());
         file.close();

@@ -1,9 +1,5 @@
 // SPDX-License-Identifier: BSD-3-Clause
-#include "designerhost.h"
-#include "quiettest.h"
-#include "testdata.h"
-
-#include <private/formwindowbase_p.h>
+#include "hosttest.h"
 
 namespace {
 
@@ -30,8 +26,10 @@ private slots:
             DesignerHost host({QStringLiteral(PLUGIN_ROOT)});
             QCOMPARE(reopened(host), exampleText());
             auto *form = host.newForm();
-            QWidget *options = host.drop(form, QStringLiteral("Vexa::OptionButtons"), {40, 40});
-            QVERIFY(options && host.menuAction(form, options, QStringLiteral("Edit Buttons")));
+            for (const char *control : {"Vexa::OptionButtons", "Vexa::MatrixPushButtons"}) {
+                QWidget *dropped = host.drop(form, QLatin1String(control), {40, 40});
+                QVERIFY(dropped && host.menuAction(form, dropped, "Edit Buttons"_s));
+            }
         }
     }
 
@@ -44,7 +42,7 @@ private slots:
         }
         const QStringList lines = m_log->takeUnexpected();
         QCOMPARE(lines.size(), 1);
-        QVERIFY(lines.first().startsWith(QLatin1String("SorrelPlugin: another form editor")));
+        QVERIFY(lines.first().startsWith("SorrelPlugin: another form editor"_s));
         QCOMPARE(reopened(first), exampleText());
     }
 };

@@ -1,30 +1,19 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "hosttest.h"
-#include "testdata.h"
-
-#include <QtDesigner/QDesignerExtraInfoExtension>
-#include <QtDesigner/QDesignerFormEditorInterface>
-#include <QtDesigner/QDesignerFormWindowCursorInterface>
-#include <QtDesigner/QDesignerFormWindowManagerInterface>
-#include <QtDesigner/QExtensionManager>
-
-#include <QtCore/QDir>
-#include <QtWidgets/QAction>
-#include <QtWidgets/QUndoStack>
 
 namespace {
 
 QString widget(const char *control, const QString &body)
 {
-    return QLatin1String("<widget class=\"Vexa::") + QLatin1String(control) + QLatin1String("\" name=\"w\">")
-        + body + QLatin1String("</widget>");
+    return "<widget class=\"Vexa::%1\" name=\"w\">%2</widget>"_s.arg(QLatin1String(control), body);
 }
 
 QString prop(const char *name, const char *value)
 {
-    return QLatin1String("<property name=\"") + QLatin1String(name) + QLatin1String("\">")
-        + QLatin1String(value) + QLatin1String("</property>");
+    return "<property name=\"%1\">%2</property>"_s.arg(QLatin1String(name), QLatin1String(value));
 }
+
+QString item(const QString &body) { return "<item>"_s + body + "</item>"_s; }
 
 } // namespace
 
@@ -37,8 +26,7 @@ private slots:
     void examplesAreStable_data()
     {
         QTest::addColumn<QString>("fileName");
-        const QDir examples(QStringLiteral(EXAMPLES));
-        const QFileInfoList files = examples.entryInfoList({QStringLiteral("*.ui")});
+        const QFileInfoList files = QDir(QStringLiteral(EXAMPLES)).entryInfoList({"*.ui"_s});
         QVERIFY(files.size() >= 4);
         for (const QFileInfo &file : files)
             QTest::newRow(qPrintable(file.fileName())) << file.filePath();
@@ -49,45 +37,6 @@ private slots:
         const QString text = formText(fileName);
         QVERIFY(!text.isEmpty());
         compareTexts(reopened(text, fileName), text);
-    }
-
-    /// Contents that were set past the property sheet, as the contents commands do it.
-    void extraDataSurvives_data()
-    {
-        QTest::addColumn<QStringList>("lists");
-        for (const char *options : {"OptionButtons", "OptionRadios"})
-            QTest::newRow(options) << words("textList iconList toolTips dataList");
-        QTest::newRow("OptionComboBox") << words("textList iconList dataList");
-        QTest::newRow("CheckableTextComboBox") << words("itemTextList toolTips");
-        for (const char *matrix :
-            {"MatrixPushButtons", "MatrixRadioButtons", "MatrixCheckBoxes", "MatrixPopButtons"})
-            QTest::newRow(matrix) << words("textList iconList toolTips actionList row column");
-    }
-    void extraDataSurvives()
-    {
-        QFETCH(QStringList, lists);
-        const QStringList texts{QStringLiteral("a"), QString(),
-            QString::fromUtf8("\xf0\x9f\x98\x80 <\"&>\n\xd7\xa9"), QStringLiteral(" "),
-            QStringLiteral("\n\t")};
-        const QVariantMap contents{{QStringLiteral("iconList"), words(":/no/such.png :/x.svg")},
-            {QStringLiteral("toolTips"), words("only")}, {QStringLiteral("row"), 3u},
-            {QStringLiteral("column"), 7u}};
-        FormWindow *form = newForm();
-        QWidget *dropped = drop(form, QTest::currentDataTag());
-        for (const QString &list : lists)
-            QVERIFY2(dropped->setProperty(qPrintable(list), contents.value(list, texts)), qPrintable(list));
-        const QString saved = DesignerHost::save(form);
-
-        FormWindow *second = open(saved);
-        QVERIFY(second);
-        const QWidget *loaded = find<QWidget>(second, dropped->objectName());
-        QVERIFY(loaded);
-        for (const QString &list : lists) {
-            QCOMPARE(loaded->property(qPrintable(list)), contents.value(list, texts));
-            // Nothing is written twice.
-            QVERIFY(saved.count(QLatin1String("<property name=\"") + list + QLatin1Char('"')) <= 1);
-        }
-        compareTexts(DesignerHost::save(second), saved);
     }
 
     void copyAndPasteKeepsExtraData()
@@ -107,7 +56,7 @@ private slots:
     void plainWidgetsGetTheExtensionToo()
     {
         FormWindow *form = newForm();
-        QWidget *button = m_host->drop(form, QStringLiteral("Push Button"), QPoint(40, 40));
+        QWidget *button = m_host->drop(form, "Push Button"_s, QPoint(40, 40));
         QVERIFY(button);
         QExtensionManager *manager = m_host->core()->extensionManager();
         auto *extension = qt_extension<QDesignerExtraInfoExtension *>(manager, button);
@@ -123,8 +72,7 @@ private slots:
         for (const char *name : {"first", "second"}) {
             auto *widget = new (memory) QWidget;
             widget->setObjectName(QLatin1String(name));
-            auto *ofWidget
-                = manager->extension(widget, QStringLiteral("org.qt-project.Qt.Designer.ExtraInfo.2"));
+            auto *ofWidget = manager->extension(widget, "org.qt-project.Qt.Designer.ExtraInfo.2"_s);
             QVERIFY(ofWidget);
             QVERIFY(ofWidget->property("served").isNull());
             ofWidget->setProperty("served", true);
@@ -141,52 +89,46 @@ private slots:
         const auto row = [](const char *name, const QString &body, const char *kept = "kept") {
             QTest::newRow(name) << formWith(body) << words(kept);
         };
-        row("item without properties",
-            widget("OptionButtons",
-                QLatin1String("<item/><item>") + prop("text", "<string>kept</string>")
-                    + QLatin1String("</item>")));
+        const QString text = prop("text", "<string>kept</string>"),
+                      list = prop("textList", "<stringlist><string>kept</string></stringlist>");
+        row("item without properties", widget("OptionButtons", "<item/>"_s + item(text)));
         row("item of the wrong type",
             widget("OptionRadios",
-                QLatin1String("<item>") + prop("text", "<number>7</number>")
-                    + prop("data", "<string>kept</string>") + QLatin1String("</item>")));
+                item(prop("text", "<number>7</number>") + prop("data", "<string>kept</string>"))));
         row("combo box item with a wrong action",
-            widget("ComboBox",
-                QLatin1String("<item>") + prop("text", "<string>kept</string>")
-                    + prop("action", "<bool>true</bool>") + QLatin1String("</item>")));
+            widget("ComboBox", item(text + prop("action", "<bool>true</bool>"))));
         row("unknown property",
             widget("Distance",
                 prop("noSuchProperty", "<number>1</number>") + prop("title", "<string>kept</string>")));
-        const QString list = prop("textList", "<stringlist><string>kept</string></stringlist>");
+        const QString huge
+            = prop("row", "<number>2147483647</number>") + prop("column", "<UInt>4294967295</UInt>");
         for (const char *matrix : {"MatrixPushButtons", "MatrixPopButtons"}) {
-            row(qPrintable(QLatin1String("huge ") + QLatin1String(matrix)),
-                widget(matrix,
-                    prop("row", "<number>2147483647</number>") + prop("column", "<UInt>4294967295</UInt>")
-                        + list),
+            row(qPrintable("huge "_s + QLatin1String(matrix)), widget(matrix, huge + list),
                 "kept 2147483647 4294967295");
-            row(qPrintable(QLatin1String("negative ") + QLatin1String(matrix)),
+            row(qPrintable("negative "_s + QLatin1String(matrix)),
                 widget(matrix, prop("row", "<number>-5</number>") + list));
         }
         row("group with a huge current index",
             widget("DrawbackBoxGroup",
                 prop("currentIndex", "<number>99999</number>")
-                    + QLatin1String("<widget class=\"QWidget\" name=\"kept\"/>")));
-        QTest::newRow("class of another plugin") << formWith(
-            QStringLiteral("<widget class=\"Other::Knob\" name=\"knob\">%1</widget>")
-                .arg(prop("toolTip", "<string>kept</string>")),
-            QStringLiteral("<customwidgets><customwidget><class>Other::Knob</class>"
-                           "<extends>QWidget</extends><header>knob.h</header></customwidget>"
-                           "</customwidgets>")) << words("Other::Knob kept knob.h");
+                    + "<widget class=\"QWidget\" name=\"kept\"/>"_s));
+        QTest::newRow("class of another plugin")
+            << formWith("<widget class=\"Other::Knob\" name=\"knob\">%1</widget>"_s.arg(
+                            prop("toolTip", "<string>kept</string>")),
+                   "<customwidgets><customwidget><class>Other::Knob</class><extends>QWidget</extends>"
+                   "<header>knob.h</header></customwidget></customwidgets>"_s)
+            << words("Other::Knob kept knob.h");
     }
     void strangeFormsOpenAndKeepWhatIsReadable()
     {
         QFETCH(QString, ui);
         QFETCH(QStringList, kept);
         // Designer speaks up about what it cannot use; that is its business.
-        m_log->allow(QStringLiteral(".*"));
+        m_log->allow(".*"_s);
         const QString saved = reopened(ui);
         QVERIFY(!saved.isEmpty());
         for (const QString &text : kept)
-            QVERIFY2(saved.contains(text), qPrintable(text + QLatin1String(" is missing in ") + saved));
+            QVERIFY2(saved.contains(text), qPrintable(text + " is missing in "_s + saved));
         compareTexts(reopened(saved), saved);
     }
 };

@@ -1,49 +1,12 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "editingtest.h"
 
-#include <QtDesigner/QDesignerFormWindowCursorInterface>
-
-#include <QtWidgets/QSpinBox>
-
 namespace {
-
-/// A control whose size hint follows its contents.
-struct Kind {
-    const char *name;
-    const char *entry;
-    Qt::Orientation direction; ///< in which it grows by all means
-};
-const Kind kinds[] = {
-    {"OptionButtons", "Edit Buttons", Qt::Horizontal},
-    {"OptionRadios", "Edit Buttons", Qt::Vertical},
-    {"MatrixPushButtons", "Edit Buttons", Qt::Vertical},
-    {"MatrixRadioButtons", "Edit Buttons", Qt::Vertical},
-    {"MatrixCheckBoxes", "Edit Buttons", Qt::Vertical},
-    {"MatrixPopButtons", "Edit Buttons", Qt::Vertical},
-    {"DrawbackBoxGroup", "Edit DrawbackBox", Qt::Vertical},
-};
 
 QString place(QWidget *control)
 {
     const QRect rect = control->geometry();
-    return QStringLiteral("%1,%2 %3x%4").arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
-}
-
-/// As many entries as make every control larger.
-void addEntries(QDialog *dialog)
-{
-    if (auto *rows = dialog->findChild<QSpinBox *>(QStringLiteral("rowCounts"))) {
-        rows->setValue(6);
-        return;
-    }
-    for (int i = 0; i < 3; ++i)
-        QTest::mouseClick(
-            dialog->findChild<QAbstractButton *>(QStringLiteral("newListItemButton")), Qt::LeftButton);
-}
-
-int length(const QSize &size, Qt::Orientation direction)
-{
-    return direction == Qt::Horizontal ? size.width() : size.height();
+    return "%1,%2 %3x%4"_s.arg(rect.x()).arg(rect.y()).arg(rect.width()).arg(rect.height());
 }
 
 } // namespace
@@ -52,81 +15,74 @@ int length(const QSize &size, Qt::Orientation direction)
 class TestGrowth : public EditingTest {
     Q_OBJECT
 
+    /// Those of which the size hint follows the contents.
+    static void addGrowing() { addRows(contentsControls, combosEnd); }
     /// A form with the row's control on it, of the size that it asks for.
-    QWidget *dropRow(FormWindow *&form)
+    void dropRow()
     {
-        m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged .*"));
-        form = newForm();
-        QWidget *control = drop(form, currentRow(kinds).name);
-        form->cursor()->setWidgetProperty(
-            control, QStringLiteral("geometry"), QRect(QPoint(20, 30), control->sizeHint()));
-        form->commandHistory()->setClean();
-        return control;
+        m_form = newForm();
+        m_control = drop(m_form, currentRow(contentsControls).name);
+        setGeometry(QRect(QPoint(20, 30), m_control->sizeHint()));
+        m_form->commandHistory()->setClean();
     }
-    void fill(FormWindow *form, QWidget *control)
+    void setGeometry(const QRect &geometry)
     {
-        const int entriesBefore = form->commandHistory()->count();
-        QVERIFY(edit(form, control, currentRow(kinds).entry, [](QDialog *dialog) {
+        m_form->cursor()->setWidgetProperty(m_control, "geometry"_s, geometry);
+    }
+    void fill()
+    {
+        const int steps = m_form->commandHistory()->count();
+        QVERIFY(edit(m_form, m_control, currentRow(contentsControls).entry, [](QDialog *dialog) {
             addEntries(dialog);
             accept(dialog);
         }));
-        QCOMPARE(form->commandHistory()->count(), entriesBefore + 1);
+        QCOMPARE(m_form->commandHistory()->count(), steps + 1);
     }
+
+    FormWindow *m_form = nullptr;
+    QWidget *m_control = nullptr;
 
 private slots:
-    void freeControlGrowsToItsHint_data() { addRows(kinds); }
+    void freeControlGrowsToItsHint_data() { addGrowing(); }
     void freeControlGrowsToItsHint()
     {
-        FormWindow *form = nullptr;
-        QWidget *control = dropRow(form);
-        const QSize sizeBefore = control->size();
-        const State before(form, control, place);
-        fill(form, control);
-        const Qt::Orientation direction = currentRow(kinds).direction;
-        QVERIFY(length(control->size(), direction) > length(sizeBefore, direction));
-        QCOMPARE(control->size(), control->sizeHint().expandedTo(sizeBefore));
-        checkHistory(form, control, place, before);
+        dropRow();
+        const QSize sizeBefore = m_control->size();
+        const State before(m_form, m_control, place);
+        fill();
+        QVERIFY(m_control->size() != sizeBefore);
+        QCOMPARE(m_control->size(), m_control->sizeHint().expandedTo(sizeBefore));
+        checkHistory(m_form, m_control, place, before);
     }
 
-    void largerSizeStays_data() { addRows(kinds); }
-    void largerSizeStays()
+    void chosenSizeStaysWhereThereIsRoomOrNothingIsAdded_data() { addGrowing(); }
+    void chosenSizeStaysWhereThereIsRoomOrNothingIsAdded()
     {
-        FormWindow *form = nullptr;
-        QWidget *control = dropRow(form);
-        const QRect chosen(10, 10, 580, 480);
-        form->cursor()->setWidgetProperty(control, QStringLiteral("geometry"), chosen);
-        fill(form, control);
-        QCOMPARE(control->geometry(), chosen);
-    }
-
-    void smallerSizeStaysWhereNothingIsAdded_data() { addRows(kinds); }
-    void smallerSizeStaysWhereNothingIsAdded()
-    {
-        FormWindow *form = nullptr;
-        QWidget *control = dropRow(form);
-        fill(form, control);
-        const QRect chosen(10, 10, 30, 20);
-        form->cursor()->setWidgetProperty(control, QStringLiteral("geometry"), chosen);
-        QVERIFY(edit(form, control, currentRow(kinds).entry, [](QDialog *dialog) {
-            if (auto *rows = dialog->findChild<QSpinBox *>(QStringLiteral("rowCounts")))
-                rows->setValue(5);
+        dropRow();
+        const QRect larger(10, 10, 580, 480), smaller(10, 10, 30, 20);
+        setGeometry(larger);
+        fill();
+        QCOMPARE(m_control->geometry(), larger);
+        setGeometry(smaller);
+        QVERIFY(edit(m_form, m_control, currentRow(contentsControls).entry, [](QDialog *dialog) {
+            if (auto *rows = dialog->findChild<QSpinBox *>("rowCounts"_s))
+                rows->setValue(rows->value() - 1);
             else
                 press(dialog, "deleteListItemButton");
             accept(dialog);
         }));
-        QCOMPARE(control->geometry(), chosen);
+        QCOMPARE(m_control->geometry(), smaller);
     }
 
-    void layoutDecidesOfTheRest_data() { addRows(kinds); }
+    void layoutDecidesOfTheRest_data() { addGrowing(); }
     void layoutDecidesOfTheRest()
     {
-        FormWindow *form = nullptr;
-        QWidget *control = dropRow(form);
-        DesignerHost::select(form, form->mainContainer());
-        QVERIFY(trigger(form, form->mainContainer(), "Lay Out Vertically"));
-        DesignerHost::select(form, control);
-        fill(form, control);
-        QCOMPARE(DesignerHost::save(form).count(QLatin1String("name=\"geometry\"")), 1); // of the form
+        dropRow();
+        DesignerHost::select(m_form, m_form->mainContainer());
+        QVERIFY(trigger(m_form, m_form->mainContainer(), "Lay Out Vertically"));
+        DesignerHost::select(m_form, m_control);
+        fill();
+        QCOMPARE(DesignerHost::save(m_form).count("name=\"geometry\""_s), 1); // of the form
     }
 };
 

@@ -3,33 +3,15 @@
 
 namespace {
 
-/// A control, the rows of its pane of which it keeps everything, and those of which it keeps nothing.
-struct Kind {
-    const char *name;
-    const char *entry;
-    const char *whole;
-    const char *nothing;
-};
-const Kind kinds[] = {
-    {"ComboBox", "Edit Items", "text icon", ""},
-    {"CheckableTextComboBox", "Edit Items", "", ""},
-    {"OptionComboBox", "Edit Items", "", ""},
-    {"OptionButtons", "Edit Buttons", "", ""},
-    {"OptionRadios", "Edit Buttons", "", ""},
-    {"MatrixPushButtons", "Edit Buttons", "", ""},
-    {"MatrixRadioButtons", "Edit Buttons", "", ""},
-    {"MatrixCheckBoxes", "Edit Buttons", "", ""},
-    {"MatrixPopButtons", "Edit Buttons", "", ""},
-    {"DrawbackBoxGroup", "Edit DrawbackBox", "", "tooltip data"},
-};
-
-/// Of all other rows the controls keep a string: a text, or the file of an icon's first state.
-bool isKept(const Kind &kind, const QString &path)
+/// Controls keep strings: a text, or the file of an icon's first state. Combo boxes keep all of theirs, and
+/// groups nothing but the titles.
+bool isKept(const ContentsControl &kind, const QString &path)
 {
     const QString row = path.section(QLatin1Char('/'), 0, 0), part = path.section(QLatin1Char('/'), 1);
-    if (words(kind.nothing).contains(row))
+    if (QLatin1String(kind.name) == "DrawbackBoxGroup"_s && row != "text"_s)
         return false;
-    return part.isEmpty() || part == QLatin1String("Normal Off") || words(kind.whole).contains(row);
+    return part.isEmpty() || part == "Normal Off"_s
+        || (QLatin1String(kind.name) == "ComboBox"_s && row != "action"_s);
 }
 
 } // namespace
@@ -39,15 +21,13 @@ class TestKeptFields : public EditingTest {
     Q_OBJECT
 
     /// A control with an entry that has a text.
-    QWidget *dropWithEntry(FormWindow *form, const Kind &kind)
+    QWidget *dropWithEntry(FormWindow *form, const ContentsControl &kind)
     {
-        m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged .*"));
         QWidget *control = drop(form, kind.name);
         edit(form, control, kind.entry, [](QDialog *dialog) {
-            if (dialog->findChild<QAbstractButton *>(QStringLiteral("newListItemButton")))
+            if (dialog->findChild<QAbstractButton *>("newListItemButton"_s))
                 press(dialog, "newListItemButton");
-            press(dialog, "showPropertiesButton");
-            QVERIFY(PaneDriver(dialog).paste(QStringLiteral("text"), QStringLiteral("a")));
+            QVERIFY(openPane(dialog).paste("text"_s, "a"_s));
             accept(dialog);
         });
         return control;
@@ -60,31 +40,45 @@ class TestKeptFields : public EditingTest {
         if (!editor)
             return false;
         if (pane.lineEdit(path))
-            return pane.paste(path, QStringLiteral("changed"));
+            return pane.paste(path, "changed"_s);
         if (!pane.pastePath(path, imageFile()))
             QTest::mouseClick(editor, Qt::LeftButton);
         QTest::keyClick(editor, Qt::Key_Escape);
         QCoreApplication::processEvents();
         return true;
     }
+    /// Gives all rows of this sort another value, and accepts.
+    bool changeAll(FormWindow *form, QWidget *control, const ContentsControl &kind,
+        const std::function<bool(const QString &path)> &isOne)
+    {
+        return edit(form, control, kind.entry, [&](QDialog *dialog) {
+            dialog->resize(900, 1200);
+            PaneDriver pane = openPane(dialog);
+            for (const QString &path : rowPaths(pane)) {
+                if (isOne(path))
+                    QVERIFY2(change(pane, path), qPrintable(path));
+            }
+            accept(dialog);
+        });
+    }
 
 private slots:
-    void rowsThatAreNotKeptSaySo_data() { addRows(kinds); }
+    void rowsThatAreNotKeptSaySo_data() { addRows(contentsControls); }
     void rowsThatAreNotKeptSaySo()
     {
-        const Kind &kind = currentRow(kinds);
+        const ContentsControl &kind = currentRow(contentsControls);
         for (const bool idBased : {false, true}) {
             FormWindow *form = newForm();
             form->setUseIdBasedTranslations(idBased);
             QWidget *control = dropWithEntry(form, kind);
             QVERIFY(edit(form, control, kind.entry, [&](QDialog *dialog) {
                 const PaneDriver pane(dialog);
-                QVERIFY(pane.names(QStringLiteral("text")).contains(QLatin1String("id")) == idBased);
+                QVERIFY(pane.names("text"_s).contains("id"_s) == idBased);
                 for (const QString &path : rowPaths(pane)) {
                     for (int column : {0, 1}) {
                         const QModelIndex cell = pane.value(path).siblingAtColumn(column);
                         const QString toolTip = cell.data(Qt::ToolTipRole).toString();
-                        const bool says = toolTip.endsWith(QLatin1String("This control does not keep it."));
+                        const bool says = toolTip.endsWith("This control does not keep it."_s);
                         QVERIFY2(says != isKept(kind, path), qPrintable(path));
                     }
                 }
@@ -92,37 +86,22 @@ private slots:
         }
     }
 
-    void changesThatAreNotKeptLeaveNoTrace_data() { addRows(kinds); }
+    void changesThatAreNotKeptLeaveNoTrace_data() { addRows(contentsControls); }
     void changesThatAreNotKeptLeaveNoTrace()
     {
-        const Kind &kind = currentRow(kinds);
+        const ContentsControl &kind = currentRow(contentsControls);
         FormWindow *form = newForm();
         QWidget *control = dropWithEntry(form, kind);
         form->commandHistory()->setClean();
         const QString before = DesignerHost::save(form);
         const int steps = form->commandHistory()->count();
-        QVERIFY(edit(form, control, kind.entry, [&](QDialog *dialog) {
-            dialog->resize(900, 1200);
-            press(dialog, "showPropertiesButton");
-            PaneDriver pane(dialog);
-            for (const QString &path : rowPaths(pane)) {
-                if (!isKept(kind, path))
-                    QVERIFY2(change(pane, path), qPrintable(path));
-            }
-            accept(dialog);
-        }));
+        QVERIFY(changeAll(form, control, kind, [&](const QString &path) { return !isKept(kind, path); }));
         QCOMPARE(form->commandHistory()->count(), steps);
         QVERIFY(!form->isDirty());
         compareTexts(DesignerHost::save(form), before);
         // One that is kept among them is a step.
-        QVERIFY(edit(form, control, kind.entry, [&](QDialog *dialog) {
-            dialog->resize(900, 1200);
-            press(dialog, "showPropertiesButton");
-            PaneDriver pane(dialog);
-            QVERIFY(change(pane, QStringLiteral("text/comment")));
-            QVERIFY(change(pane, QStringLiteral("text")));
-            accept(dialog);
-        }));
+        const QStringList some = words("text text/comment");
+        QVERIFY(changeAll(form, control, kind, [&](const QString &path) { return some.contains(path); }));
         QCOMPARE(form->commandHistory()->count(), steps + 1);
     }
 };

@@ -1,48 +1,27 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "editingtest.h"
 
-#include <QtWidgets/QListWidget>
-#include <QtWidgets/QSpinBox>
-#include <QtWidgets/QTableWidget>
-
 #include <algorithm>
 
 namespace {
-
-struct Kind {
-    const char *name;
-    const char *entry;
-};
-const Kind kinds[] = {
-    {"ComboBox", "Edit Items"},
-    {"CheckableTextComboBox", "Edit Items"},
-    {"OptionComboBox", "Edit Items"},
-    {"OptionButtons", "Edit Buttons"},
-    {"OptionRadios", "Edit Buttons"},
-    {"MatrixPushButtons", "Edit Buttons"},
-    {"MatrixRadioButtons", "Edit Buttons"},
-    {"MatrixCheckBoxes", "Edit Buttons"},
-    {"MatrixPopButtons", "Edit Buttons"},
-    {"DrawbackBoxGroup", "Edit DrawbackBox"},
-};
 
 /// What a widget is called: by its object name, the pane as such, a nameless button by its text.
 QString nameOf(const QWidget *widget)
 {
     if (qobject_cast<const QTreeView *>(widget))
-        return QStringLiteral("pane");
+        return "pane"_s;
     const auto *button = qobject_cast<const QPushButton *>(widget);
-    if (button && button->objectName() != QLatin1String("showPropertiesButton"))
+    if (button && button->objectName() != "showPropertiesButton"_s)
         return button->text().remove(QLatin1Char('&'));
-    if (widget && widget->objectName() == QLatin1String("qt_tabwidget_tabbar"))
-        return QStringLiteral("tab");
+    if (widget && widget->objectName() == "qt_tabwidget_tabbar"_s)
+        return "tab"_s;
     return widget ? widget->objectName() : QString();
 }
 
 void pressKey(Qt::Key key) { QTest::keyClick(QApplication::focusWidget(), key); }
 
-/// Where the keyboard is after each press of \a key, until it is at \a end, in the way of "a b c".
-QString way(Qt::Key key, const QWidget *end)
+/// Where the keyboard is after each press of \a key, until it is at \a end.
+QStringList way(Qt::Key key, const QWidget *end)
 {
     QStringList names;
     constexpr int enough = 30;
@@ -50,14 +29,7 @@ QString way(Qt::Key key, const QWidget *end)
         pressKey(key);
         names += nameOf(QApplication::focusWidget());
     } while (QApplication::focusWidget() != end && names.size() < enough);
-    return names.join(QLatin1Char(' '));
-}
-
-QString reversed(const QString &way)
-{
-    QStringList names = way.split(QLatin1Char(' '));
-    std::reverse(names.begin(), names.end());
-    return names.join(QLatin1Char(' '));
+    return names;
 }
 
 /// The widgets of an open editor that take the keyboard, from left to right.
@@ -83,8 +55,7 @@ class TestTabbing : public EditingTest {
     /// Opens the dialog of the row's control and waits until it has the keyboard.
     void editActive(const UseDialog &use)
     {
-        const Kind &kind = currentRow(kinds);
-        m_log->allow(QStringLiteral("DrawbackBoxGroupContainerExtension::currentIndexChanged .*"));
+        const ContentsControl &kind = currentRow(contentsControls);
         FormWindow *form = newForm();
         QWidget *control = drop(form, kind.name);
         QVERIFY(control);
@@ -93,72 +64,53 @@ class TestTabbing : public EditingTest {
             use(dialog);
         }));
     }
-    /// Adds rows until every button has something to do.
-    static void fill(QDialog *dialog)
+    /// Adds rows until every button has something to do, and gives the contents the keyboard.
+    static QWidget *fill(QDialog *dialog)
     {
-        if (auto *table = dialog->findChild<QTableWidget *>()) {
-            dialog->findChild<QSpinBox *>(QStringLiteral("rowCounts"))->setValue(3);
-            table->setCurrentCell(1, 0);
-            return;
-        }
+        addEntries(dialog);
+        auto *table = dialog->findChild<QTableWidget *>();
         auto *list = dialog->findChild<QListWidget *>();
-        for (int i = 0; i < 3; ++i)
-            press(dialog, "newListItemButton");
-        list->setCurrentRow(1);
-        list->setFocus();
+        table ? table->setCurrentCell(1, 0) : list->setCurrentRow(1);
+        QWidget *contents = table ? static_cast<QWidget *>(table) : list;
+        contents->setFocus();
+        return contents;
     }
 
 private slots:
-    void keyboardStartsInTheContents_data() { addRows(kinds); }
-    void keyboardStartsInTheContents()
-    {
-        editActive([](QDialog *dialog) {
-            const bool grid = dialog->findChild<QTableWidget *>();
-            QCOMPARE(nameOf(QApplication::focusWidget()), QLatin1String(grid ? "tableWidget" : "listWidget"));
-            pressKey(Qt::Key_Space);
-            QVERIFY(dialog->isVisible());
-            for (const auto *button : dialog->findChildren<QPushButton *>())
-                QCOMPARE(button->isDefault(), nameOf(button) == QLatin1String("OK"));
-        });
-    }
-
-    void tabGoesThroughTheDialogInReadingOrder_data() { addRows(kinds); }
+    void tabGoesThroughTheDialogInReadingOrder_data() { addRows(contentsControls); }
     void tabGoesThroughTheDialogInReadingOrder()
     {
         editActive([](QDialog *dialog) {
-            fill(dialog);
+            const bool grid = dialog->findChild<QTableWidget *>();
+            const QString start = grid ? "tableWidget"_s : "listWidget"_s;
+            QCOMPARE(nameOf(QApplication::focusWidget()), start);
+            pressKey(Qt::Key_Space);
+            QVERIFY(dialog->isVisible());
+            for (const auto *button : dialog->findChildren<QPushButton *>())
+                QCOMPARE(button->isDefault(), nameOf(button) == "OK"_s);
+
+            QWidget *contents = fill(dialog);
             press(dialog, "showPropertiesButton");
-            auto *table = dialog->findChild<QTableWidget *>();
-            QWidget *start = table;
-            QString order
-                = QStringLiteral("rowCounts colCounts showPropertiesButton pane OK Cancel tab tableWidget");
-            if (!table) {
-                start = dialog->findChild<QListWidget *>();
-                order
-                    = QStringLiteral("newListItemButton deleteListItemButton moveListItemUpButton "
-                                     "moveListItemDownButton showPropertiesButton pane OK Cancel listWidget");
-            }
-            start->setFocus();
-            QCOMPARE(way(Qt::Key_Tab, start), order);
-            const QString others = order.left(order.lastIndexOf(QLatin1Char(' ')));
-            QCOMPARE(way(Qt::Key_Backtab, start), reversed(others) + QLatin1Char(' ') + nameOf(start));
+            QStringList others = words(grid
+                    ? "rowCounts colCounts showPropertiesButton pane OK Cancel tab"
+                    : "newListItemButton deleteListItemButton moveListItemUpButton moveListItemDownButton "
+                      "showPropertiesButton pane OK Cancel");
+            contents->setFocus();
+            QCOMPARE(way(Qt::Key_Tab, contents), others + QStringList(start));
+            std::reverse(others.begin(), others.end());
+            QCOMPARE(way(Qt::Key_Backtab, contents), others + QStringList(start));
         });
     }
 
-    void tabLeadsThroughAnOpenRowOfThePane_data() { addRows(kinds); }
+    void tabLeadsThroughAnOpenRowOfThePane_data() { addRows(contentsControls); }
     void tabLeadsThroughAnOpenRowOfThePane()
     {
         editActive([](QDialog *dialog) {
             fill(dialog);
-            press(dialog, "showPropertiesButton");
-            PaneDriver pane(dialog);
+            PaneDriver pane = openPane(dialog);
             // With a value there is something to reset.
-            for (const QString &row : pane.names()) {
-                if (row == QLatin1String("icon"))
-                    QVERIFY(pane.pastePath(row, QStringLiteral("a.png")));
-                else
-                    QVERIFY(pane.paste(row, QStringLiteral("a")));
-            }
+            for (const QString &row : pane.names())
+                QVERIFY(row == "icon"_s ? pane.pastePath(row, "a.png"_s) : pane.paste(row, "a"_s));
             for (const QString &path : rowPaths(pane)) {
                 pane.tree()->setFocus();
                 pane.tree()->setCurrentIndex(pane.value(path));
@@ -170,13 +122,13 @@ private slots:
                     QVERIFY2(stop->hasFocus(), qPrintable(path));
                     pressKey(Qt::Key_Tab);
                 }
-                QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("OK"));
+                QCOMPARE(nameOf(QApplication::focusWidget()), "OK"_s);
                 for (int i = expected.size() - 1; i >= 0; --i) {
                     pressKey(Qt::Key_Backtab);
                     QVERIFY2(expected.at(i)->hasFocus(), qPrintable(path));
                 }
                 pressKey(Qt::Key_Backtab);
-                QCOMPARE(nameOf(QApplication::focusWidget()), QStringLiteral("pane"));
+                QCOMPARE(nameOf(QApplication::focusWidget()), "pane"_s);
             }
         });
     }

@@ -2,11 +2,6 @@
 #include "quiettest.h"
 #include "testdata.h"
 
-#include <QtCore/QJsonObject>
-#include <QtCore/QMetaProperty>
-#include <QtCore/QPluginLoader>
-#include <QtCore/QPointer>
-#include <QtCore/QProcess>
 #include <QtGui/QColor>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtWidgets/QWidget>
@@ -86,8 +81,7 @@ const auto controlCount = int(std::size(expectedControls));
 QVariant another(const QVariant &value)
 {
     const QVariant others[] = {!value.toBool(), value.toDouble() + 0.5, value.toString() + QLatin1Char('x'),
-        QStringList{QStringLiteral("a"), QStringLiteral("b;c"), QString(), QStringLiteral("a")},
-        QColor(17, 34, 51), QPointF(-3, 2.5)};
+        QStringList{"a"_s, "b;c"_s, QString(), "a"_s}, QColor(17, 34, 51), QPointF(-3, 2.5)};
     for (const QVariant &other : others) {
         if (other.userType() == value.userType())
             return other;
@@ -121,11 +115,6 @@ class TestLoader : public QuietTest {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        QuietTest::init();
-        m_loader.setFileName(QStringLiteral(PLUGIN_FILE));
-    }
     void cleanup()
     {
         m_loader.unload();
@@ -135,20 +124,19 @@ private slots:
     void metadataNamesTheCollection()
     {
         const QJsonObject metaData = m_loader.metaData();
-        QCOMPARE(metaData.value(QLatin1String("IID")).toString(),
-            QStringLiteral("org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface"));
-        QCOMPARE(metaData.value(QLatin1String("className")).toString(), QStringLiteral("CpPlugin"));
+        QCOMPARE(metaData.value("IID"_s).toString(),
+            "org.qt-project.Qt.QDesignerCustomWidgetCollectionInterface"_s);
+        QCOMPARE(metaData.value("className"_s).toString(), "CpPlugin"_s);
         // A debug plugin would be refused by the Designer that everybody has.
-        QCOMPARE(metaData.value(QLatin1String("debug")).toBool(true), false);
-        QCOMPARE(metaData.value(QLatin1String("version")).toInt() & ~0xff, QT_VERSION & ~0xff);
-        QVERIFY(metaData.value(QLatin1String("MetaData")).toObject().isEmpty());
+        QCOMPARE(metaData.value("debug"_s).toBool(true), false);
+        QCOMPARE(metaData.value("version"_s).toInt() & ~0xff, QT_VERSION & ~0xff);
+        QVERIFY(metaData.value("MetaData"_s).toObject().isEmpty());
     }
 
     void exportsTheEntryPointsOnly()
     {
         QProcess nm;
-        nm.start(QStringLiteral("nm"),
-            {QStringLiteral("-D"), QStringLiteral("--defined-only"), QStringLiteral(PLUGIN_FILE)});
+        nm.start("nm"_s, {"-D"_s, "--defined-only"_s, QStringLiteral(PLUGIN_FILE)});
         QVERIFY(nm.waitForFinished());
         QCOMPARE(nm.exitCode(), 0);
         QByteArrayList names;
@@ -172,29 +160,17 @@ private slots:
         QCOMPARE(collection->metaObject()->propertyCount(), QObject::staticMetaObject.propertyCount());
     }
 
-    void controlsStandInOrder()
-    {
-        QStringList expected, names;
-        for (const Expected &control : expectedControls)
-            expected += QLatin1String("Vexa::") + QLatin1String(control.name);
-        const QList<QDesignerCustomWidgetInterface *> descriptors = customWidgets();
-        for (const QDesignerCustomWidgetInterface *descriptor : descriptors)
-            names += descriptor->name();
-        QCOMPARE(names, expected);
-    }
-
     void descriptorAnswers_data() { addRows(expectedControls); }
     void descriptorAnswers()
     {
         const Expected &expected = currentRow(expectedControls);
-        const QString className = QLatin1String("Vexa::") + QLatin1String(expected.name);
+        const QString className = "Vexa::"_s + QLatin1String(expected.name);
         QDesignerCustomWidgetInterface *descriptor = currentWidget();
         QVERIFY(descriptor);
+        QCOMPARE(descriptor->name(), className);
         QCOMPARE(descriptor->group(), QLatin1String(expected.group));
-        QString includeFile = QLatin1String(expected.includeFile);
-        includeFile.chop(2);
-        includeFile += QLatin1String(HEADER_EXTENSION);
-        QCOMPARE(descriptor->includeFile(), includeFile);
+        QCOMPARE(descriptor->includeFile(),
+            QString::fromLatin1(expected.includeFile).replace(".h"_s, QStringLiteral(HEADER_EXTENSION)));
         QCOMPARE(descriptor->isContainer(), expected.container);
         const bool isPane = qstrcmp(expected.name, "Pane") == 0;
         QCOMPARE(descriptor->toolTip(), QLatin1String(isPane ? "Quenta Collapsible Pane" : ""));
@@ -202,11 +178,11 @@ private slots:
         QVERIFY(descriptor->codeTemplate().isEmpty());
         QVERIFY(descriptor->icon().isNull());
 
-        QFile file(QStringLiteral(XML_FOLDER "/") + QLatin1String(expected.xml) + QLatin1String(".xml"));
+        QFile file(QStringLiteral(XML_FOLDER "/") + QLatin1String(expected.xml) + ".xml"_s);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QString xml = QString::fromUtf8(file.readAll());
-        xml.replace(QLatin1String("CLASS"), className);
-        xml.replace(QLatin1String("OBJECT"), QLatin1String(expected.objectName));
+        xml.replace("CLASS"_s, className);
+        xml.replace("OBJECT"_s, QLatin1String(expected.objectName));
         if (!expected.finalNewline)
             xml.chop(1);
         QCOMPARE(descriptor->domXml(), xml);
@@ -239,7 +215,7 @@ private slots:
     void propertiesKeepWhatTheyTakeAndTellItOnce_data() { addRows(expectedControls); }
     void propertiesKeepWhatTheyTakeAndTellItOnce()
     {
-        m_log->allow(QStringLiteral("QSignalSpy: Unable to handle parameter .*"));
+        m_log->allow("QSignalSpy: Unable to handle parameter .*"_s);
         const std::unique_ptr<QWidget> control(currentWidget()->createWidget(nullptr));
         const QVector<QMetaProperty> properties = ownProperties(control.get());
         QVERIFY(control->metaObject()->indexOfProperty("id") < 0);
@@ -310,7 +286,7 @@ private:
         return collection ? collection->customWidgets() : QList<QDesignerCustomWidgetInterface *>();
     }
 
-    QPluginLoader m_loader;
+    QPluginLoader m_loader{QStringLiteral(PLUGIN_FILE)};
 };
 
 QTEST_MAIN(TestLoader)
