@@ -7,11 +7,14 @@
 #include "buttongrid.h"
 #include "icons.h"
 #include "itemlistmodel.h"
+#include "surroundings.h"
 
+#include <QtGui/QPainter>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QRadioButton>
+#include <QtWidgets/QStyleOption>
 #include <QtWidgets/QToolButton>
 
 #include <algorithm>
@@ -32,6 +35,29 @@ QAbstractButton *makeToggle(QWidget *parent)
 }
 
 QAbstractButton *makeRadio(QWidget *parent) { return new QRadioButton(parent); }
+
+/// Says to whoever edits the form that items are to come, as a grid does of buttons.
+class ItemsBox : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        QComboBox::paintEvent(event);
+        if (count() > 0 || !isEdited(this))
+            return;
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        const QRect place
+            = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+        QPainter painter(this);
+        painter.setLayoutDirection(layoutDirection());
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(place, Qt::AlignVCenter,
+            fontMetrics().elidedText(OptionComboBox::tr("No items yet"), Qt::ElideRight, place.width()));
+    }
+};
 
 ButtonGrid::Contents gridContents(const AbstractOptions &options, unsigned int rows, unsigned int columns)
 {
@@ -117,7 +143,7 @@ void OptionRadios::showCurrentIndex() { m_grid->setCheckedIndex(currentIndex());
 
 OptionComboBox::OptionComboBox(QWidget *parent)
     : AbstractOptions(tr("Option"), parent)
-    , m_comboBox(new QComboBox(this))
+    , m_comboBox(new ItemsBox(this))
     , m_model(new ItemListModel(false, this))
 {
     // Without the measuring of every text, which would make a long list slow to show.

@@ -62,25 +62,21 @@ private slots:
     /// Whoever edits the form sees where buttons are to come, whoever uses it does not.
     void emptyControlsSaySoInTheEditorOnly()
     {
-        const auto isPlain = [](QWidget *control) {
-            QImage image;
-            for (QWidget *child : control->findChildren<QWidget *>()) {
-                if (child->inherits("Vexa::ButtonGrid"))
-                    image = child->grab().toImage();
-            }
-            QImage plain = image;
-            plain.fill(image.pixelColor(0, 0));
-            return image == plain;
+        const auto picture = [](QWidget *control) {
+            control->resize(250, 80);
+            return control->grab().toImage();
         };
-        for (const char *kind : {"OptionButtons", "OptionRadios"}) {
+        for (const char *kind : {"OptionButtons", "OptionRadios", "OptionComboBox"}) {
             FormWindow *form = newForm();
-            QWidget *control = drop(form, kind);
-            control->resize(control->sizeHint());
-            QVERIFY(!isPlain(control));
-            const std::unique_ptr<QWidget> outside(
-                form->core()->widgetFactory()->createWidget("Vexa::"_s + QLatin1String(kind)));
-            outside->resize(outside->sizeHint());
-            QVERIFY(isPlain(outside.get()));
+            QDesignerWidgetFactoryInterface *factory = form->core()->widgetFactory();
+            const QString name = "Vexa::"_s + QLatin1String(kind);
+            QWidget *control = factory->createWidget(name, form->mainContainer());
+            QWidget window;
+            QWidget *outside = factory->createWidget(name, &window);
+            QVERIFY2(picture(control) != picture(outside), kind);
+            for (QWidget *each : {control, outside})
+                each->setProperty("textList", words("a"));
+            QTRY_VERIFY2(picture(control) == picture(outside), kind);
         }
     }
 
@@ -122,6 +118,9 @@ private slots:
         QVERIFY(!before.contains("windowTitle"_s));
         Vexa::DrawbackBox *box = group->box(1);
         QTRY_COMPARE(box->shownTitle(), "Page 2"_s);
+        DesignerHost::select(form, form->mainContainer());
+        QTest::mouseClick(box, Qt::LeftButton, {}, {30, 5});
+        QVERIFY(form->cursor()->isWidgetSelected(group));
         for (const Qt::Key end : {Qt::Key_Escape, Qt::Key_Return}) {
             QTest::mouseDClick(box, Qt::LeftButton, {}, {30, 5});
             auto *editor = box->findChild<QLineEdit *>();
