@@ -97,18 +97,6 @@ protected:
         return PaneDriver(dialog);
     }
 
-    /// The paths of all rows of a pane, sub rows included.
-    static QStringList rowPaths(const PaneDriver &pane)
-    {
-        QStringList paths;
-        for (const QString &row : pane.names()) {
-            paths += row;
-            for (const QString &part : pane.names(row))
-                paths += row + QLatin1Char('/') + part;
-        }
-        return paths;
-    }
-
     /// Adds three entries, or as many rows.
     static void addEntries(const QDialog *dialog)
     {

@@ -84,15 +84,6 @@ protected:
         const bool hasRoom = QTest::qWaitFor([page] { return page->isVisible() && page->height() > 20; });
         return hasRoom ? drop(form, "CmdButton", page->mapTo(form, QPoint(10, 10))) : nullptr;
     }
-    /// The cell of the property editor's view with the value of a property of what is selected.
-    QModelIndex valueCell(const QString &property) const
-    {
-        const auto *view = m_host->core()->propertyEditor()->findChild<QTreeView *>();
-        const QAbstractItemModel *model = view->model();
-        const QModelIndexList names = model->match(model->index(0, 0), Qt::DisplayRole, property, 1,
-            Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive);
-        return names.isEmpty() ? QModelIndex() : names.first().siblingAtColumn(1);
-    }
     /// Triggers the context menu entry with this text; false where there is none to be triggered.
     bool trigger(FormWindow *form, QWidget *widget, const char *entry)
     {

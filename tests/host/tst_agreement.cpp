@@ -33,9 +33,9 @@ class TestAgreement : public EditingTest {
     void compareRows(const QWidget *control) const
     {
         for (const QString &property : contentsProperties(control)) {
-            QVERIFY2(valueCell(property).isValid(), qPrintable(property));
-            QCOMPARE(
-                valueCell(property).data().toString(), shownValue(control->property(qPrintable(property))));
+            QVERIFY2(m_host->valueCell(property).isValid(), qPrintable(property));
+            QCOMPARE(m_host->valueCell(property).data().toString(),
+                shownValue(control->property(qPrintable(property))));
         }
     }
 
@@ -48,7 +48,7 @@ class TestAgreement : public EditingTest {
         QCoreApplication::processEvents();
         auto *view = editor->findChild<QTreeView *>();
         QVERIFY(!view->uniformRowHeights()); // Designer's rows differ in height
-        const QModelIndex cell = valueCell(property);
+        const QModelIndex cell = m_host->valueCell(property);
         view->scrollTo(cell);
         QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
         QAbstractButton *button = nullptr;

@@ -137,7 +137,7 @@ private slots:
     {
         DesignerHost::select(m_form, m_group);
         QTRY_COMPARE(m_host->core()->propertyEditor()->object(), m_group);
-        const auto shown = [this] { return valueCell("currentIndex"_s).data().toString(); };
+        const auto shown = [this] { return m_host->valueCell("currentIndex"_s).data().toString(); };
         QCOMPARE(shown(), "0"_s);
         QVERIFY(trigger(m_form, m_group, "Insert Page After Current Page"));
         QCOMPARE(shown(), "1"_s);

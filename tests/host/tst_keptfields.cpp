@@ -54,7 +54,7 @@ class TestKeptFields : public EditingTest {
         return edit(form, control, kind.entry, [&](QDialog *dialog) {
             dialog->resize(900, 1200);
             PaneDriver pane = openPane(dialog);
-            for (const QString &path : rowPaths(pane)) {
+            for (const QString &path : pane.paths()) {
                 if (isOne(path))
                     QVERIFY2(change(pane, path), qPrintable(path));
             }
@@ -74,7 +74,7 @@ private slots:
             QVERIFY(edit(form, control, kind.entry, [&](QDialog *dialog) {
                 const PaneDriver pane(dialog);
                 QVERIFY(pane.names("text"_s).contains("id"_s) == idBased);
-                for (const QString &path : rowPaths(pane)) {
+                for (const QString &path : pane.paths()) {
                     for (int column : {0, 1}) {
                         const QModelIndex cell = pane.value(path).siblingAtColumn(column);
                         const QString toolTip = cell.data(Qt::ToolTipRole).toString();

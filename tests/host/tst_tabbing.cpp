@@ -111,7 +111,7 @@ private slots:
             // With a value there is something to reset.
             for (const QString &row : pane.names())
                 QVERIFY(row == "icon"_s ? pane.pastePath(row, "a.png"_s) : pane.paste(row, "a"_s));
-            for (const QString &path : rowPaths(pane)) {
+            for (const QString &path : pane.paths()) {
                 pane.tree()->setFocus();
                 pane.tree()->setCurrentIndex(pane.value(path));
                 pressKey(Qt::Key_Space);
