@@ -53,15 +53,27 @@ private:
     const char *const m_nameProperty;
 };
 
+bool isClass(const QMetaObject *metaObject, const char *className)
+{
+    return qstrcmp(metaObject->className(), className) == 0;
+}
+
+/// Qt asks for the classes of an object from its own on, and searches for plugins at each that nobody
+/// answers. So the first of ours that is asked for gets the answer, on behalf of its base classes, too.
 QAccessibleInterface *makeInterface(const QString &className, QObject *object)
 {
-    if (!object || !object->isWidgetType())
+    if (!object || !object->isWidgetType() || !className.startsWith(QLatin1String("Vexa::")))
         return nullptr;
-    for (const ControlRole &row : controlRoles) {
-        if (className == QLatin1String(row.className))
-            return new ControlInterface(static_cast<QWidget *>(object), row);
+    auto *widget = static_cast<QWidget *>(object);
+    const QMetaObject *metaObject = object->metaObject();
+    for (; qstrncmp(metaObject->className(), "Q", 1) != 0; metaObject = metaObject->superClass()) {
+        for (const ControlRole &row : controlRoles) {
+            if (isClass(metaObject, row.className))
+                return new ControlInterface(widget, row);
+        }
     }
-    return nullptr;
+    // Qt knows better for the other classes of its own.
+    return isClass(metaObject, "QWidget") ? new QAccessibleWidget(widget) : nullptr;
 }
 
 /// For as long as the library is loaded.
