@@ -34,14 +34,14 @@ public:
         m_newContents = newContents;
     }
 
-    void undo() override { apply(m_oldContents, m_putBack); }
+    void undo() override { apply(m_newContents, m_oldContents, m_putBack); }
     void redo() override
     {
         if (m_control && !m_putBack) {
             m_putBack = keepRest(m_control);
             m_growth = ControlGrowth(formWindow(), m_control);
         }
-        apply(m_newContents, {});
+        apply(m_oldContents, m_newContents, {});
     }
 
 protected:
@@ -59,19 +59,23 @@ protected:
             m_iconCache = form->iconCache();
     }
 
-    virtual void write(const Contents &contents, Control *control) = 0;
+    /// \a before is what the control holds if nobody has changed it past the undo stack.
+    virtual void write(const Contents &before, const Contents &contents, Control *control) = 0;
     /// Called once, before anything is written.
     virtual PutBack keepRest(Control *control) const = 0;
+
+    const Contents &oldContents() const { return m_oldContents; }
+    const Contents &newContents() const { return m_newContents; }
 
     /// The form's icon cache, null where the form has none.
     qdesigner_internal::DesignerIconCache *iconCache() const { return m_iconCache; }
 
 private:
-    void apply(const Contents &contents, const PutBack &putBack)
+    void apply(const Contents &before, const Contents &contents, const PutBack &putBack)
     {
         if (!m_control)
             return;
-        write(contents, m_control);
+        write(before, contents, m_control);
         if (m_control && putBack)
             putBack(m_control);
         if (m_control && m_slot)
@@ -111,7 +115,7 @@ public:
 private:
     using PutBack = typename ChangeContentsCommand<Control, Contents>::PutBack;
 
-    void write(const Contents &contents, Control *control) override
+    void write(const Contents &, const Contents &contents, Control *control) override
     {
         std::invoke(writeContents, contents, control);
     }

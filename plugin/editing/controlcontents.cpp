@@ -86,6 +86,33 @@ QStandardItem *makeItem(const ItemData &entry, qdesigner_internal::DesignerIconC
     return item;
 }
 
+/// Those of the entries from \a first on and before \a end; they belong to the caller.
+QList<QStandardItem *> makeItems(
+    const ListContents &contents, int first, int end, qdesigner_internal::DesignerIconCache *iconCache)
+{
+    QList<QStandardItem *> items;
+    items.reserve(end - first);
+    for (int i = first; i < end; ++i)
+        items.append(makeItem(contents.at(i), iconCache));
+    return items;
+}
+
+QStandardItemModel *itemModel(const Vexa::ComboBox *comboBox)
+{
+    return comboBox->rootModelIndex().isValid() ? nullptr
+                                                : qobject_cast<QStandardItemModel *>(comboBox->model());
+}
+
+/// One name per entry.
+QStringList actions(const ListContents &contents, int count)
+{
+    QStringList actions;
+    actions.reserve(count);
+    for (int i = 0; i < count; ++i)
+        actions.append(contents.at(i).text(ItemRole::Action));
+    return actions;
+}
+
 /// Appends \a items, which then belong to the combo box.
 void addItems(const QList<QStandardItem *> &items, QComboBox *comboBox)
 {
@@ -155,22 +182,35 @@ void applyToComboBox(
         return;
     comboBox->clear();
     const int count = std::min(contents.size(), comboBox->maxCount());
-    QList<QStandardItem *> items;
-    items.reserve(count);
-    QStringList actions;
-    actions.reserve(count);
-    for (int i = 0; i < count; ++i) {
-        items.append(makeItem(contents.at(i), iconCache));
-        actions.append(contents.at(i).text(ItemRole::Action));
-    }
-    addItems(items, comboBox);
-    comboBox->setActionList(actions);
+    addItems(makeItems(contents, 0, count, iconCache), comboBox);
+    comboBox->setActionList(actions(contents, count));
 }
 
-std::function<void(Vexa::ComboBox *)> keepItems(Vexa::ComboBox *comboBox)
+bool canReplaceInComboBox(
+    const ListContents &before, const ListContents &contents, const Vexa::ComboBox *comboBox)
+{
+    return comboBox && itemModel(comboBox) && comboBox->count() == before.size()
+        && contents.size() <= comboBox->maxCount();
+}
+
+bool replaceInComboBox(const ListContents &before, const ListContents &contents, Vexa::ComboBox *comboBox,
+    qdesigner_internal::DesignerIconCache *iconCache)
+{
+    if (!canReplaceInComboBox(before, contents, comboBox))
+        return false;
+    const ListDifference difference(before, contents);
+    QStandardItem *root = itemModel(comboBox)->invisibleRootItem();
+    root->removeRows(difference.first, before.size() - difference.first - difference.last);
+    root->insertRows(difference.first,
+        makeItems(contents, difference.first, contents.size() - difference.last, iconCache));
+    comboBox->setActionList(actions(contents, contents.size()));
+    return true;
+}
+
+std::function<void(Vexa::ComboBox *)> keepItems(Vexa::ComboBox *comboBox, int first, int end)
 {
     QMap<int, QMap<int, QVariant>> items;
-    for (int row = 0; row < comboBox->count(); ++row) {
+    for (int row = first; row < end; ++row) {
         const QModelIndex index
             = comboBox->model()->index(row, comboBox->modelColumn(), comboBox->rootModelIndex());
         const QMap<int, QVariant> item = comboBox->model()->itemData(index);

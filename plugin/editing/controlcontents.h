@@ -27,9 +27,10 @@ ListContents fromOptionCombo(Vexa::OptionComboBox *optionCombo);
 ListContents fromOptionButtons(Vexa::OptionButtons *buttons);
 ListContents fromOptionRadios(Vexa::OptionRadios *radios);
 
-/// What makes the items of the combo box that fromComboBox() does not give in full, its action list, its
-/// current item and its text what they are now, once its items have been written again.
-std::function<void(Vexa::ComboBox *)> keepItems(Vexa::ComboBox *comboBox);
+/// What makes the items of the combo box from \a first on and before \a end that fromComboBox() does not give
+/// in full, its action list, its current item and its text what they are now, once these items have been
+/// written again.
+std::function<void(Vexa::ComboBox *)> keepItems(Vexa::ComboBox *comboBox, int first, int end);
 /// What makes the lists of the control what they are now, to the last entry.
 std::function<void(Vexa::CheckableTextComboBox *)> keepLists(Vexa::CheckableTextComboBox *checkCombo);
 std::function<void(Vexa::OptionComboBox *)> keepLists(Vexa::OptionComboBox *optionCombo);
@@ -49,6 +50,12 @@ ItemData keptBy(const Vexa::OptionRadios *radios, const ItemData &entry);
 /// box takes.
 void applyToComboBox(
     const ListContents &contents, Vexa::ComboBox *comboBox, qdesigner_internal::DesignerIconCache *iconCache);
+/// The same for a combo box that holds \a before: only the items that differ are written. False, and nothing
+/// is written, where it holds other items too, or does not take so many.
+bool replaceInComboBox(const ListContents &before, const ListContents &contents, Vexa::ComboBox *comboBox,
+    qdesigner_internal::DesignerIconCache *iconCache);
+bool canReplaceInComboBox(
+    const ListContents &before, const ListContents &contents, const Vexa::ComboBox *comboBox);
 void applyToCheckCombo(const ListContents &contents, Vexa::CheckableTextComboBox *checkCombo);
 void applyToOptionCombo(const ListContents &contents, Vexa::OptionComboBox *optionCombo);
 void applyToOptionButtons(const ListContents &contents, Vexa::OptionButtons *buttons);

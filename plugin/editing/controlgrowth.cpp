@@ -8,6 +8,7 @@
 
 #include <private/layoutinfo_p.h>
 
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLayout>
 
 #include <algorithm>
@@ -26,6 +27,13 @@ QSize currentHint(const QWidget *control)
     return control->sizeHint().boundedTo(control->maximumSize());
 }
 
+/// Most combo boxes measure their items once, which takes its time for many, and keep to that.
+bool isSizedByContents(const QWidget *control)
+{
+    const auto *comboBox = qobject_cast<const QComboBox *>(control);
+    return !comboBox || comboBox->sizeAdjustPolicy() == QComboBox::AdjustToContents;
+}
+
 QDesignerPropertySheetExtension *propertySheet(const QDesignerFormWindowInterface *form, QWidget *control)
 {
     return qt_extension<QDesignerPropertySheetExtension *>(form->core()->extensionManager(), control);
@@ -38,7 +46,7 @@ QString geometryProperty() { return QStringLiteral("geometry"); }
 ControlGrowth::ControlGrowth(QDesignerFormWindowInterface *form, QWidget *control)
 {
     if (!form || !form->core() || !control || control == form->mainContainer()
-        || LayoutInfo::isWidgetLaidout(form->core(), control))
+        || LayoutInfo::isWidgetLaidout(form->core(), control) || !isSizedByContents(control))
         return;
     const auto *sheet = propertySheet(form, control);
     if (!sheet)

@@ -37,7 +37,8 @@ void ChangeDrawbackBoxCommand::init(Vexa::DrawbackBoxGroup *group, const Drawbac
     }
 }
 
-void ChangeDrawbackBoxCommand::write(const DrawbackBoxContents &contents, Vexa::DrawbackBoxGroup *group)
+void ChangeDrawbackBoxCommand::write(
+    const DrawbackBoxContents &, const DrawbackBoxContents &contents, Vexa::DrawbackBoxGroup *group)
 {
     replaceBoxes(contents.boxes, group);
     for (int index = 0; index < group->count(); ++index) {

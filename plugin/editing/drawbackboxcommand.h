@@ -24,7 +24,8 @@ public:
     QVector<int> currentIds() const { return m_currentIds; }
 
 private:
-    void write(const DrawbackBoxContents &contents, Vexa::DrawbackBoxGroup *group) override;
+    void write(const DrawbackBoxContents &, const DrawbackBoxContents &contents,
+        Vexa::DrawbackBoxGroup *group) override;
     /// The titles of the pages, which a control may show otherwise than they are, and the current page.
     PutBack keepRest(Vexa::DrawbackBoxGroup *group) const override;
     void replaceBoxes(const QVector<DrawbackBoxHold> &boxes, Vexa::DrawbackBoxGroup *group);

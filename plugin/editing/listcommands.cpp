@@ -8,7 +8,8 @@ ChangeComboBoxCommand::ChangeComboBoxCommand(QDesignerFormWindowInterface *formW
 {
 }
 
-void ChangeComboBoxCommand::write(const ListContents &contents, Vexa::ComboBox *comboBox)
+void ChangeComboBoxCommand::write(
+    const ListContents &before, const ListContents &contents, Vexa::ComboBox *comboBox)
 {
     // New items make the first one current and its text the edited one, which is not what the user chose on
     // the form.
@@ -16,7 +17,8 @@ void ChangeComboBoxCommand::write(const ListContents &contents, Vexa::ComboBox *
         m_currentIndex = comboBox->count() ? comboBox->currentIndex() : 0;
     const QString typed = comboBox->currentText();
     const bool isTyped = comboBox->isEditable() && typed != comboBox->itemText(comboBox->currentIndex());
-    applyToComboBox(contents, comboBox, iconCache());
+    if (!replaceInComboBox(before, contents, comboBox, iconCache()))
+        applyToComboBox(contents, comboBox, iconCache());
     comboBox->setCurrentIndex(std::min(*m_currentIndex, comboBox->count() - 1));
     if (isTyped)
         comboBox->setEditText(typed);
@@ -24,5 +26,9 @@ void ChangeComboBoxCommand::write(const ListContents &contents, Vexa::ComboBox *
 
 ChangeComboBoxCommand::PutBack ChangeComboBoxCommand::keepRest(Vexa::ComboBox *comboBox) const
 {
-    return keepItems(comboBox);
+    const ListContents &before = oldContents();
+    if (!canReplaceInComboBox(before, newContents(), comboBox))
+        return keepItems(comboBox, 0, comboBox->count());
+    const ListDifference difference(before, newContents());
+    return keepItems(comboBox, difference.first, before.size() - difference.last);
 }

@@ -19,7 +19,7 @@ public:
     explicit ChangeComboBoxCommand(QDesignerFormWindowInterface *formWindow);
 
 private:
-    void write(const ListContents &contents, Vexa::ComboBox *comboBox) override;
+    void write(const ListContents &before, const ListContents &contents, Vexa::ComboBox *comboBox) override;
     PutBack keepRest(Vexa::ComboBox *comboBox) const override;
 
     std::optional<int> m_currentIndex; ///< before the first write

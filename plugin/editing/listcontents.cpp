@@ -5,6 +5,7 @@
 #include <QtWidgets/QListWidget>
 
 #include <algorithm>
+#include <iterator>
 
 void applyToListWidget(const ListContents &contents, QListWidget *listWidget,
     qdesigner_internal::DesignerIconCache *iconCache, bool editor)
@@ -34,20 +35,18 @@ ListContents fromListWidget(const QListWidget *listWidget, bool editor)
     return contents;
 }
 
+ListDifference::ListDifference(const ListContents &before, const ListContents &after)
+{
+    const auto both = std::mismatch(before.cbegin(), before.cend(), after.cbegin(), after.cend());
+    first = int(both.first - before.cbegin());
+    const auto reversed = std::mismatch(before.crbegin(), std::make_reverse_iterator(both.first),
+        after.crbegin(), std::make_reverse_iterator(both.second));
+    last = int(reversed.first - before.crbegin());
+}
+
 void shareEqualEntries(ListContents *contents, const ListContents &original)
 {
-    const auto share = [](ItemData &entry, const ItemData &known) {
-        const bool equal = entry == known;
-        if (equal)
-            entry = known;
-        return equal;
-    };
-    const int common = std::min(contents->size(), original.size());
-    int first = 0;
-    while (first < common && share((*contents)[first], original[first]))
-        ++first;
-    for (int distance = 1; distance <= common - first; ++distance) {
-        if (!share((*contents)[contents->size() - distance], original[original.size() - distance]))
-            break;
-    }
+    const ListDifference difference(original, *contents);
+    std::copy_n(original.cbegin(), difference.first, contents->begin());
+    std::copy_n(original.crbegin(), difference.last, contents->rbegin());
 }
