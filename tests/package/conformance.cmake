@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: BSD-3-Clause
-# The installed stand-in as somebody else's control library: with another header extension, and with seven things
-# missing, each noticed at another place.
+# The installed stand-in as somebody else's control library: with another header extension, and with a fault of every
+# kind that is looked for.
 cmake_minimum_required(VERSION 3.25)
 
 file(REMOVE_RECURSE "${SCRATCH}")
@@ -60,23 +60,32 @@ replace_in("${folder}/SrComboBox.hpp" "void setActionList(" "void changeActionLi
 replace_in("${folder}/SrMatrixPopButtons.hpp" "void setColumn(" "void changeColumn(")
 replace_in("${folder}/SrColorPanel.hpp" "explicit ColorPanel(QWidget *parent = nullptr, Qt::WindowFlags flags = {})"
     "explicit ColorPanel(QWidget *parent = nullptr)")
+file(REMOVE "${folder}/SrFormBuilder.hpp")
 # For the linker: declared in a way that the library does not have.
 replace_in("${folder}/SrDrawbackBoxGroup.hpp" "void removePage(int index)" "void removePage(long index)")
-# For the running program: a class without Q_OBJECT, a signal under another name.
+# For the running program: a class without Q_OBJECT, a signal, a slot and a property under another name.
 file(READ "${folder}/Template/SrAngle.hpp" text)
 string(REPLACE "Q_OBJECT" "" text "${text}")
 file(WRITE "${folder}/Template/SrAngle.hpp" "${text}")
 file(GLOB library "${SCRATCH}/broken/${LIBDIR}/libSorrel.so.*.*.*")
-execute_process(COMMAND sed -z -i "s/^pageTitleChanged$/pageTitleChangex/" "${library}" COMMAND_ERROR_IS_FATAL ANY)
+execute_process(COMMAND sed -z -i "s/^pageTitleChanged$/pageTitleChangex/;s/^updateGeomtries$/updateGeomtriex/;s/^functionName$/functionNamx/"
+    "${library}" COMMAND_ERROR_IS_FATAL ANY)
 
 expect_report(broken 1)
-expect_text("lacks 7 of the ")
+expect_text("lacks 15 of the ")
 expect_text("  Vexa::Angle                   (the class)           class Vexa::Angle : public QWidget, with Q_OBJECT, in <nui/Sorrel/Template/SrAngle.hpp>\n")
 expect_text("  Vexa::MatrixCheckBoxes        (the class)           class Vexa::MatrixCheckBoxes : public Vexa::AbstractMatrixOptions, with Q_OBJECT, in <nui/Sorrel/SrMatrixButtons.hpp>\n")
 expect_text("  Vexa::ColorPanel              (constructor)         Vexa::ColorPanel(QWidget *, Qt::WindowFlags)\n")
 expect_text("  Vexa::ComboBox                setActionList         void setActionList(const QStringList &)\n")
 expect_text("  Vexa::DrawbackBoxGroup        removePage            void removePage(int)\n")
 expect_text("  Vexa::DrawbackBoxGroup        pageTitleChanged      signal pageTitleChanged(QString)\n")
+expect_text("  Vexa::OptionButtons           updateGeomtries       slot updateGeomtries()\n")
+expect_text("  Vexa::OptionRadios            updateGeomtries       slot updateGeomtries()\n")
+expect_text("  Vexa::AbstractMatrixOptions   updateGeomtries       slot updateGeomtries()\n")
+expect_text("  Vexa::MatrixPopButtons        updateGeomtries       slot updateGeomtries()\n")
+expect_text("  Vexa::Form                    functionName          property functionName\n")
+expect_text("  Vexa::FormBuilder             (the class)           class Vexa::FormBuilder in <nui/Sorrel/SrFormBuilder.hpp>\n")
+expect_text("  Vexa::FormBuilder             saveExtraInfo         static void saveExtraInfo(DomWidget *, QWidget *, void *)\n")
 expect_text("  Vexa::MatrixPopButtons        setColumn             void setColumn(unsigned int)\n")
 
 # A header extension that is not the library's.
