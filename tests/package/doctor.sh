@@ -49,6 +49,11 @@ else
 fi
 LD_LIBRARY_PATH=$build/standin expect 0 "the control library as $build/standin/libSorrel.so.0"
 
+install_plugin
+sed -i 's/libSorrel\.so\.0/libVexaUi.so.0/g' "$installed"
+cp "$build/standin/libSorrel.so.0" "$scratch/libVexaUi.so.0"
+LD_LIBRARY_PATH=$scratch expect 0 'the control library under another name or within the plugin'
+
 [[ $("$source/tools/doctor" --help) == usage:* ]] || { echo '--help is unknown'; failures=1; }
 result=0
 "$source/tools/doctor" --halp >/dev/null 2>&1 || result=$?
