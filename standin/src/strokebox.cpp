@@ -58,7 +58,6 @@ public:
 StrokeBox::StrokeBox(QWidget *owner)
     : QComboBox(owner)
 {
-    setItemDelegate(new StrokeDelegate(this));
     auto *layout = new QVBoxLayout(owner);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(this);
@@ -67,6 +66,14 @@ StrokeBox::StrokeBox(QWidget *owner)
 }
 
 QSize StrokeBox::sizeHint() const { return QComboBox::sizeHint() + QSize(strokeLength + 5 * margin, 0); }
+
+void StrokeBox::showPopup()
+{
+    // Not earlier: a delegate has the list made, which most of these boxes never show.
+    if (!dynamic_cast<StrokeDelegate *>(itemDelegate()))
+        setItemDelegate(new StrokeDelegate(this));
+    QComboBox::showPopup();
+}
 
 void StrokeBox::paintEvent(QPaintEvent *)
 {

@@ -15,6 +15,7 @@ public:
     explicit StrokeBox(QWidget *owner);
 
     QSize sizeHint() const override;
+    void showPopup() override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
