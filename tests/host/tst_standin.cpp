@@ -135,6 +135,8 @@ private slots:
         const QString after = DesignerHost::save(form);
         QVERIFY(after.contains("<string>Holes</string>"_s));
         checkUndo(form, before, after);
+        form->commandHistory()->setIndex(2);
+        QCOMPARE(box->shownTitle(), "Page 2"_s);
     }
 };
 

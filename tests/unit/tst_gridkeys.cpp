@@ -8,8 +8,8 @@
 namespace {
 
 /// The dialog of a grid.
-struct Grid : OnScreen<MatrixButtonsDialog, QTableWidget> {
-    Grid(unsigned int rows, unsigned int columns, const char *texts)
+struct GridEditor : OnScreen<MatrixButtonsDialog, QTableWidget> {
+    GridEditor(unsigned int rows, unsigned int columns, const char *texts)
     {
         matrix.setProperty("row", rows);
         matrix.setProperty("column", columns);
@@ -69,7 +69,7 @@ private slots:
     void blocksArePastedAsOneStep()
     {
         const Paste &paste = currentRow(pastes);
-        Grid grid(2, 3, "a,b,c,d,e,f");
+        GridEditor grid(2, 3, "a,b,c,d,e,f");
         grid.table->setCurrentCell(paste.cell.y(), paste.cell.x());
         grid.pasteText(QString::fromUtf8(paste.text));
         QCOMPARE(grid.texts(), QString::fromUtf8(paste.cells));
@@ -82,7 +82,7 @@ private slots:
 
     void cellsAreCopiedAndCleared()
     {
-        Grid grid(2, 2, "a,b,c,d");
+        GridEditor grid(2, 2, "a,b,c,d");
         QGuiApplication::clipboard()->setText(QStringLiteral(":/i.png"));
         grid.trigger(grid.pasteMenu(), "icon");
         grid.trigger(grid.pasteMenu(), "toolTip");
@@ -101,7 +101,7 @@ private slots:
         QCOMPARE(grid.texts(), QStringLiteral("a,b/c,"));
         QCOMPARE(grid.texts(ItemRole::Icon), QStringLiteral(":/i.png,/,"));
         QVERIFY(grid.table->item(1, 1)->toolTip().isEmpty());
-        Grid other(3, 3, "");
+        GridEditor other(3, 3, "");
         other.press(Qt::Key_V, ctrl);
         QCOMPARE(other.texts(), QStringLiteral("a,b,/c,a,/,,"));
         QCOMPARE(other.texts(ItemRole::Icon), QStringLiteral(":/i.png,,/,:/i.png,/,,"));
@@ -109,7 +109,7 @@ private slots:
 
     void spinBoxLeavesUndoToTheDialogUnlessTextWasTyped()
     {
-        Grid grid(2, 1, "a,b");
+        GridEditor grid(2, 1, "a,b");
         QSpinBox *rows = grid.rowCounts;
         rows->setFocus();
         QTest::keyClick(rows, Qt::Key_Down);
@@ -131,7 +131,7 @@ private slots:
     {
         QFETCH(unsigned int, seed);
         RandomWalk walk(seed);
-        Grid grid(3, 3, "a,b,c,d,e,f,g,h,i");
+        GridEditor grid(3, 3, "a,b,c,d,e,f,g,h,i");
         grid.showPane();
         const auto select = [&] {
             const int row = walk.below(grid.table->rowCount());
