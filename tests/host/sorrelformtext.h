@@ -13,11 +13,10 @@ inline QByteArray form(const QByteArray &contents, const QByteArray &afterwards 
 }
 
 /// A widget named "n" of this class with this inside.
-inline QByteArray containing(const char *className, const QByteArray &inside)
+inline QByteArray containing(const char *className, const QByteArray &inside = QByteArray())
 {
     return QByteArray("<widget class=\"") + className + "\" name=\"n\">" + inside + "</widget>";
 }
-inline QByteArray empty(const char *className) { return containing(className, QByteArray()); }
 
 inline QByteArray prop(const char *name, const QByteArray &value)
 {

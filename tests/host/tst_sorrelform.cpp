@@ -79,12 +79,12 @@ private slots:
             "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;\">]>"
                 + form("<property name=\"windowTitle\"><string>&d;&d;&d;&d;&d;&d;&d;&d;</string></property>"),
             "error");
-        add("text after the form", form(empty("QLabel")) + "x", "malformed");
-        add("unknown class", form(empty("QNothing")), "unknown-class");
-        add("unknown control", form(empty("Vexa::Nothing"), declared("Vexa::Nothing", "QWidget")),
+        add("text after the form", form(containing("QLabel")) + "x", "malformed");
+        add("unknown class", form(containing("QNothing")), "unknown-class");
+        add("unknown control", form(containing("Vexa::Nothing"), declared("Vexa::Nothing", "QWidget")),
             "unknown-class");
-        add("promoted class", form(empty("MyEdit"), declared("MyEdit", "QLineEdit")), "");
-        add("repeated name", form(empty("QLabel") + empty("QLabel")), "repeated-name");
+        add("promoted class", form(containing("MyEdit"), declared("MyEdit", "QLineEdit")), "");
+        add("repeated name", form(containing("QLabel") + containing("QLabel")), "repeated-name");
         // In Designer itself this is a question, which nobody is there to answer.
         add("absent resource file",
             form(QByteArray(), "<resources><include location=\"absent.qrc\"/></resources>"), "warning");
@@ -180,7 +180,7 @@ private slots:
         QCOMPARE(result.output, read(m_folder.filePath("form.ui"_s)));
         QCOMPARE(run(words("check -"), {}, RLIM_INFINITY, result.output).output, QByteArray("-: ok\n"));
         // Findings do not get among the forms.
-        const Result bad = run(words("normalize -"), {}, RLIM_INFINITY, form(empty("QNothing")));
+        const Result bad = run(words("normalize -"), {}, RLIM_INFINITY, form(containing("QNothing")));
         QCOMPARE(bad.exitCode, 1);
         QCOMPARE(bad.output, QByteArray());
         QVERIFY2(bad.errors.contains("unknown-class"), bad.errors);
@@ -190,7 +190,7 @@ private slots:
     {
         QStringList files;
         for (int i = 0; i < 30; ++i) {
-            const QByteArray text = form(empty(i % 7 == 0 ? "QNothing" : "Vexa::Angle"));
+            const QByteArray text = form(containing(i % 7 == 0 ? "QNothing" : "Vexa::Angle"));
             files += write(text, "many-%1.ui"_s.arg(i));
         }
         files.insert(11, "absent.ui"_s);
@@ -273,7 +273,7 @@ private slots:
         QVERIFY(QFileInfo(link).isSymLink());
 
         // A form with findings stays as it is.
-        const QByteArray bad = form(empty("QLabel") + empty("QLabel"));
+        const QByteArray bad = form(containing("QLabel") + containing("QLabel"));
         write(bad);
         QCOMPARE(run({"normalize"_s, fileName}).exitCode, 1);
         QCOMPARE(read(fileName), bad);
