@@ -12,7 +12,10 @@
 
 #include <private/qtresourcemodel_p.h>
 
+#include <QtCore/QStringBuilder>
 #include <QtGui/QIcon>
+
+#include <cstring>
 
 namespace {
 
@@ -54,7 +57,7 @@ QString ControlPlugin::whatsThis() const { return QString(); }
 
 QString ControlPlugin::includeFile() const
 {
-    return QLatin1String(m_row.includeFile) + QLatin1String(SORREL_HEADER_EXTENSION);
+    return QLatin1String(m_row.includeFile) % QLatin1String(SORREL_HEADER_EXTENSION);
 }
 
 QIcon ControlPlugin::icon() const { return QIcon(); }
@@ -87,10 +90,13 @@ void ControlPlugin::initialize(QDesignerFormEditorInterface *core)
 
 QString ControlPlugin::domXml() const
 {
-    QString xml = QString::fromLatin1(m_row.xml);
-    xml.replace(QLatin1String("%1"), QLatin1String(m_row.className));
-    xml.replace(QLatin1String("%2"), QLatin1String(m_row.objectName));
-    return xml;
+    const char *const first = std::strstr(m_row.xml, "%1");
+    const char *const second = first ? std::strstr(first, "%2") : nullptr;
+    if (!second)
+        return QString::fromLatin1(m_row.xml);
+    return QLatin1String(m_row.xml, int(first - m_row.xml)) % QLatin1String(m_row.className)
+        % QLatin1String(first + 2, int(second - first) - 2) % QLatin1String(m_row.objectName)
+        % QLatin1String(second + 2);
 }
 
 QString ControlPlugin::codeTemplate() const { return QString(); }
