@@ -43,7 +43,7 @@ public:
 
     QString text(QAccessible::Text kind) const override
     {
-        const QString given = QAccessibleWidget::text(kind);
+        QString given = QAccessibleWidget::text(kind);
         if (kind != QAccessible::Name || !given.isEmpty() || !m_nameProperty)
             return given;
         return widget()->property(m_nameProperty).toString();
