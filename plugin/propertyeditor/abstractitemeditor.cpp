@@ -193,7 +193,7 @@ void AbstractItemEditor::noteRenaming(const QModelIndex &item)
 void AbstractItemEditor::changeItems(const QVector<ItemChange> &changes, ItemEdit edit)
 {
     if (!changes.isEmpty())
-        m_history->push(new ItemDataCommand(this, changes, edit, m_session)); // belongs to the history
+        m_history->push(new ItemDataCommand(this, changes, edit, m_typing)); // belongs to the history
 }
 
 void AbstractItemEditor::writeChanges(

@@ -89,7 +89,7 @@ protected:
     /// Makes a step of changes that belong together, unless there are none.
     void changeItems(const QVector<ItemChange> &changes, ItemEdit edit = ItemEdit::Choice);
     /// Key strokes from now on make a new step.
-    void endTyping() { ++m_session; }
+    void endTyping() { ++m_typing; }
 
     /// The roles of the pane's rows in their order, and their names.
     QVector<int> roles() const;
@@ -143,7 +143,7 @@ private:
     QVector<PropertyRow *> m_rows;
     QHash<PropertyRow *, int> m_roles;
     QUndoStack *m_history;
-    int m_session = 0;
+    int m_typing = 0;
     ItemEdit m_paneEdit = ItemEdit::Choice;
     bool m_replaying = false;
 };

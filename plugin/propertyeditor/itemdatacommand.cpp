@@ -20,12 +20,12 @@ void ItemEditCommand::redo()
 }
 
 ItemDataCommand::ItemDataCommand(
-    AbstractItemEditor *editor, const QVector<ItemChange> &changes, ItemEdit edit, int session)
+    AbstractItemEditor *editor, const QVector<ItemChange> &changes, ItemEdit edit, int typing)
     : ItemEditCommand(editor)
     , m_editor(editor)
     , m_changes(changes)
     , m_edit(edit)
-    , m_session(session)
+    , m_typing(typing)
 {
 }
 
@@ -41,7 +41,7 @@ bool ItemDataCommand::mergeWith(const QUndoCommand *other)
     const auto samePlace = [](const ItemChange &left, const ItemChange &right) {
         return left.row == right.row && left.column == right.column && left.role == right.role;
     };
-    if (next->m_session != m_session
+    if (next->m_typing != m_typing
         || !std::equal(m_changes.cbegin(), m_changes.cend(), next->m_changes.cbegin(), next->m_changes.cend(),
             samePlace))
         return false;

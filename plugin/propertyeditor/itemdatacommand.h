@@ -48,9 +48,9 @@ enum class ItemEdit {
 /// Changes values of items in an item editor's view.
 class ItemDataCommand : public ItemEditCommand {
 public:
-    /// Only key strokes of the same \a session are one step.
+    /// Only key strokes of the same \a typing are one step.
     ItemDataCommand(
-        AbstractItemEditor *editor, const QVector<ItemChange> &changes, ItemEdit edit, int session);
+        AbstractItemEditor *editor, const QVector<ItemChange> &changes, ItemEdit edit, int typing);
 
     int id() const override;
     bool mergeWith(const QUndoCommand *other) override;
@@ -63,7 +63,7 @@ private:
     AbstractItemEditor *const m_editor;
     QVector<ItemChange> m_changes;
     const ItemEdit m_edit;
-    const int m_session;
+    const int m_typing;
 };
 
 } // namespace qdesigner_internal
