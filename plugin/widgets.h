@@ -86,8 +86,8 @@ protected:
 private slots:
     void currentIndexChanged(int index);
     void pageTitleChanged(const QString &title);
-    /// Makes a title that was edited in the control one undo step.
     void pageActivated();
+    /// Makes a title that was edited in the control one undo step.
     void pageTitleEdited(int index, const QString &before);
 
 private:

@@ -53,6 +53,8 @@ private:
     const char *const m_nameProperty;
 };
 
+bool isOurs(const QMetaObject *metaObject) { return qstrncmp(metaObject->className(), "Vexa::", 6) == 0; }
+
 bool isClass(const QMetaObject *metaObject, const char *className)
 {
     return qstrcmp(metaObject->className(), className) == 0;
@@ -65,8 +67,11 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object)
     if (!object || !object->isWidgetType() || !className.startsWith(QLatin1String("Vexa::")))
         return nullptr;
     auto *widget = static_cast<QWidget *>(object);
+    // An application may have derived a class of its own.
     const QMetaObject *metaObject = object->metaObject();
-    for (; qstrncmp(metaObject->className(), "Q", 1) != 0; metaObject = metaObject->superClass()) {
+    while (!isOurs(metaObject))
+        metaObject = metaObject->superClass();
+    for (; isOurs(metaObject); metaObject = metaObject->superClass()) {
         for (const ControlRole &row : controlRoles) {
             if (isClass(metaObject, row.className))
                 return new ControlInterface(widget, row);
