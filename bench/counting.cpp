@@ -13,6 +13,8 @@
 #else
 #define HAS_CALLGRIND false
 #define RUNNING_ON_VALGRIND 0
+#define CALLGRIND_START_INSTRUMENTATION
+#define CALLGRIND_STOP_INSTRUMENTATION
 #define CALLGRIND_ZERO_STATS
 #define CALLGRIND_DUMP_STATS
 #endif
@@ -30,6 +32,19 @@ bool isCounting()
     return counting;
 }
 
+Uncounted::Uncounted(bool wanted)
+    : m_active(wanted && isCounting())
+{
+    if (m_active)
+        CALLGRIND_STOP_INSTRUMENTATION;
+}
+
+Uncounted::~Uncounted()
+{
+    if (m_active)
+        CALLGRIND_START_INSTRUMENTATION;
+}
+
 void restartCount() { CALLGRIND_ZERO_STATS; }
 
 double countedSinceRestart()
@@ -39,13 +54,15 @@ double countedSinceRestart()
     QFile dump(QStringLiteral("%1.%2").arg(qEnvironmentVariable(outVariable)).arg(++dumps));
     if (!dump.open(QIODevice::ReadOnly))
         qFatal("callgrind wrote no %s", qPrintable(dump.fileName()));
-    dump.seek(qMax(qint64(0), dump.size() - 200));
-    const QByteArray end = dump.readAll();
-    const int totals = end.lastIndexOf("totals: ");
-    if (totals < 0)
-        qFatal("%s has no total", qPrintable(dump.fileName()));
+    // The totals at the end of the file would count functions in that ran before the start, too.
+    constexpr char key[] = "\nsummary: ";
+    const QByteArray head = dump.read(4096);
+    const int summary = head.indexOf(key);
+    if (summary < 0)
+        qFatal("%s has no summary", qPrintable(dump.fileName()));
     dump.remove();
-    return end.mid(totals + int(qstrlen("totals: "))).simplified().toDouble() / 1e6;
+    const QByteArray number = head.mid(summary + int(qstrlen(key)));
+    return number.left(number.indexOf('\n')).toDouble() / 1e6;
 }
 
 QString runUnderCallgrind(const QStringList &options, const QStringList &arguments, QString *error)

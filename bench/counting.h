@@ -13,6 +13,19 @@ bool isCounting();
 void restartCount();
 double countedSinceRestart();
 
+/// While it lives nothing is counted, which takes a tenth of the time; coming and going take seconds. One that is
+/// not \a wanted does nothing.
+class Uncounted {
+public:
+    explicit Uncounted(bool wanted);
+    ~Uncounted();
+    Uncounted(const Uncounted &) = delete;
+    Uncounted &operator=(const Uncounted &) = delete;
+
+private:
+    const bool m_active;
+};
+
 /// Runs this program with \a arguments under callgrind with \a options and gives back what it and callgrind
 /// wrote to the standard error; says in \a error where that does not work.
 QString runUnderCallgrind(const QStringList &options, const QStringList &arguments, QString *error);

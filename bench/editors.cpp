@@ -23,6 +23,7 @@
 #include <QtWidgets/QUndoStack>
 
 #include <cmath>
+#include <optional>
 
 using qdesigner_internal::PropertySheetStringValue;
 
@@ -39,6 +40,7 @@ struct Contestant {
     QWidget *control = nullptr;
     QMap<QString, Samples> samples = {};
     bool unchangedPushed = false;
+    bool isLarge = false; ///< and slow where instructions are counted
 
     void open(int count)
     {
@@ -46,15 +48,22 @@ struct Contestant {
                                             R"(<widget class="%1" name="control"/></widget></ui>)")
                                  .arg(className));
         control = form->mainContainer()->findChild<QWidget *>(QStringLiteral("control"));
+        isLarge = count >= 10000;
+        const Uncounted filling(isLarge);
         fill(control, count);
     }
     void close() { host.closeForm(form); }
-    Visit visit(const std::function<bool(QDialog *)> &inside) const
+    double visit(Part part, const std::function<bool(QDialog *)> &inside)
     {
         QAction *action = host.menuAction(form, control, actionText);
         if (!action)
             qFatal("%s has no '%s'", qPrintable(className), qPrintable(actionText));
-        return visitDialog(action, inside);
+        std::optional<Uncounted> uncounted(std::in_place, isLarge && part == Part::Closing);
+        return visitDialog(action, part, [&](QDialog *dialog) {
+            const bool accepted = inside(dialog);
+            uncounted.reset();
+            return accepted;
+        });
     }
     void add(const QString &what, double sample) { samples[what] += sample; }
 };
@@ -176,15 +185,15 @@ void playRound(Contestant &contestant, int count, void (*lookIn)(Contestant &, Q
     BenchApplication::settle();
 
     const double heapBefore = heapInUse();
-    const Visit look = contestant.visit([&](QDialog *dialog) {
+    const double shown = contestant.visit(Part::Opening, [&](QDialog *dialog) {
         contestant.add(QStringLiteral("heap open"), heapInUse() - heapBefore);
         lookIn(contestant, dialog);
         return false;
     });
-    contestant.add(QStringLiteral("shown"), look.shown);
+    contestant.add(QStringLiteral("shown"), shown);
 
     const int before = history->index();
-    const Visit change = contestant.visit([](QDialog *dialog) {
+    const double closed = contestant.visit(Part::Closing, [](QDialog *dialog) {
         // Designer's grid dialog has lists too, for its headers.
         QAbstractItemView *view = dialog->findChild<QTableWidget *>();
         if (!view)
@@ -198,7 +207,7 @@ void playRound(Contestant &contestant, int count, void (*lookIn)(Contestant &, Q
     const int after = history->index();
     if (after == before)
         qFatal("an edit of %s pushed no command", qPrintable(contestant.className));
-    contestant.add(QStringLiteral("Ok"), change.closed);
+    contestant.add(QStringLiteral("Ok"), closed);
     contestant.add(QStringLiteral("undo"), timed([=] { history->setIndex(before); }));
     contestant.add(QStringLiteral("redo"), timed([=] { history->setIndex(after); }));
 
@@ -206,8 +215,8 @@ void playRound(Contestant &contestant, int count, void (*lookIn)(Contestant &, Q
     history->clear();
     contestant.add(QStringLiteral("heap kept"), heapWithCommand - heapInUse());
 
-    const Visit unchanged = contestant.visit([](QDialog *) { return true; });
-    contestant.add(QStringLiteral("Ok unchanged"), unchanged.closed);
+    contestant.add(
+        QStringLiteral("Ok unchanged"), contestant.visit(Part::Closing, [](QDialog *) { return true; }));
     contestant.unchangedPushed |= history->count() > 0;
     contestant.close();
     BenchApplication::settle();
@@ -254,7 +263,7 @@ void measureLists(DesignerHost &host, Report &report, const Effort &effort)
         Contestant ours{host, QStringLiteral("Vexa::ComboBox"), QStringLiteral("Edit Items"), fillComboBox};
         Contestant theirs{host, QStringLiteral("QComboBox"), QStringLiteral("Edit Items..."), fillComboBox};
         const bool largest = size.count == 100000;
-        compete(ours, theirs, size.count, largest && effort.quick ? 2 : effort.rounds, editInPlace);
+        compete(ours, theirs, size.count, largest && effort.quick ? qMin(2, effort.rounds) : effort.rounds, editInPlace);
         const auto compare = [&](const char *what, const QString &key, const QString &unit, Target target) {
             report.ratio(QLatin1String(what), unit, ours.samples[key], theirs.samples[key], target);
         };

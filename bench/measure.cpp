@@ -13,6 +13,7 @@
 #include <QtWidgets/QTableWidget>
 
 #include <ctime>
+#include <optional>
 
 #include <malloc.h>
 
@@ -65,33 +66,35 @@ double heapInUse()
     return double(info.uordblks + info.hblkhd) / (1024 * 1024);
 }
 
-Visit visitDialog(QAction *action, const std::function<bool(QDialog *)> &inside)
+double visitDialog(QAction *action, Part part, const std::function<bool(QDialog *)> &inside)
 {
     BenchApplication::settle();
-    Visit visit;
+    double measured = 0;
     bool visited = false;
-    Stopwatch sinceEnd;
+    std::optional<Stopwatch> stopwatch;
     QTimer watchdog;
     watchdog.setSingleShot(true);
     QObject::connect(&watchdog, &QTimer::timeout, [] { qFatal("a dialog did not come or did not close"); });
     watchdog.start(longestVisit);
 
-    const Stopwatch sinceTrigger;
+    if (part == Part::Opening)
+        stopwatch.emplace();
     static_cast<BenchApplication *>(qApp)->afterPaint(showsContents, [&] {
-        visit.shown = sinceTrigger.elapsed();
+        if (part == Part::Opening)
+            measured = stopwatch->elapsed();
         QTimer::singleShot(0, qApp, [&] {
             auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
             BenchApplication::settle();
             const bool accepted = inside(dialog);
             visited = true;
-            sinceEnd = Stopwatch();
+            if (part == Part::Closing)
+                stopwatch.emplace();
             endButton(dialog, accepted)->click();
         });
     });
     action->trigger();
     BenchApplication::settle();
-    visit.closed = sinceEnd.elapsed();
     if (!visited)
         qFatal("'%s' opened no contents dialog", qPrintable(action->text()));
-    return visit;
+    return part == Part::Closing ? stopwatch->elapsed() : measured;
 }

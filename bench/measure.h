@@ -29,13 +29,13 @@ double timed(const std::function<void()> &work);
 /// Megabytes of heap in use.
 double heapInUse();
 
-/// Times of one visit to a contents dialog, in the unit of stopwatches.
-struct Visit {
-    double shown = 0; ///< from the trigger to the end of the first paint of the contents
-    double closed = 0; ///< from the press of Ok or Cancel until all is done
+/// What is measured of a visit to a contents dialog.
+enum class Part {
+    Opening, ///< from the trigger to the end of the first paint of the contents
+    Closing ///< from the press of Ok or Cancel until all is done
 };
 
 /// Triggers \a action and runs \a inside in the dialog that it opens, after the first paint of its list or
-/// table and what follows it; \a inside says whether the dialog is accepted. Ends the program where no dialog
-/// comes.
-Visit visitDialog(QAction *action, const std::function<bool(QDialog *)> &inside);
+/// table and what follows it; \a inside says whether the dialog is accepted. Gives what a stopwatch tells of
+/// \a part. Ends the program where no dialog comes.
+double visitDialog(QAction *action, Part part, const std::function<bool(QDialog *)> &inside);
