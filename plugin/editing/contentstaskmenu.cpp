@@ -7,13 +7,27 @@
 
 namespace {
 
-/// Keeps from the control it watches, and so from its children, that a modal dialog comes and goes. On a form
-/// they take no input anyway, and there may be ten thousand of them to tell.
+/// Keeps from the control it watches, and so from its children, that a modal dialog comes and goes and that the
+/// window is active no longer. On a form they take no input anyway, and there may be ten thousand of them to
+/// tell, where one repaint of all does the same.
 class ModalityFilter final : public QObject {
 public:
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *watched, QEvent *event) override
     {
-        return event->type() == QEvent::WindowBlocked || event->type() == QEvent::WindowUnblocked;
+        switch (event->type()) {
+        case QEvent::WindowBlocked:
+        case QEvent::WindowUnblocked:
+            return true;
+        case QEvent::WindowActivate:
+        case QEvent::WindowDeactivate: {
+            auto *control = static_cast<QWidget *>(watched);
+            if (!control->palette().isEqual(QPalette::Active, QPalette::Inactive))
+                control->update();
+            return true;
+        }
+        default:
+            return false;
+        }
     }
 };
 
