@@ -30,8 +30,9 @@ bool sameFor(const Control *control, const MatrixContents &left, const MatrixCon
         return a.first == b.first && sameFor(control, a.second, b.second);
     };
     return left.columnCount == right.columnCount && left.rowCount == right.rowCount
-        && std::equal(left.items.constKeyValueBegin(), left.items.constKeyValueEnd(),
-            right.items.constKeyValueBegin(), right.items.constKeyValueEnd(), same);
+        && (left.items.isSharedWith(right.items)
+            || std::equal(left.items.constKeyValueBegin(), left.items.constKeyValueEnd(),
+                right.items.constKeyValueBegin(), right.items.constKeyValueEnd(), same));
 }
 
 /// Whether controls of this class tell two values of a role apart.

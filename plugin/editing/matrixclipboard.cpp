@@ -49,9 +49,12 @@ void MatrixEditor::makePasteMenu()
         menu->addAction(nameOf(role))->setData(role);
 }
 
-/// A spin box keeps the keys of undo and redo for its text even where that has nothing to undo.
+/// A spin box keeps the keys of undo and redo for its text even where that has nothing to undo. A header
+/// measures all its sections when it is hidden, as the table is when the dialog ends.
 bool MatrixEditor::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::Hide && qobject_cast<QHeaderView *>(watched->parent()))
+        return true;
     if (event->type() == QEvent::ShortcutOverride) {
         const auto *key = static_cast<QKeyEvent *>(event);
         const auto *line = watched->findChild<QLineEdit *>();

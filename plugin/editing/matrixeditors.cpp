@@ -58,6 +58,9 @@ MatrixEditor::MatrixEditor(QDesignerFormWindowInterface *form, QDialog *dialog)
     connect(m_ui->rowCounts, SIGNAL(valueChanged(int)), this, SLOT(on_rowCountsChanged(int)));
     connect(m_ui->colCounts, SIGNAL(valueChanged(int)), this, SLOT(on_colCountsChanged(int)));
     connect(history(), SIGNAL(indexChanged(int)), this, SLOT(noteChange()));
+    for (const QHeaderView *header :
+        {m_ui->tableWidget->horizontalHeader(), m_ui->tableWidget->verticalHeader()})
+        header->viewport()->installEventFilter(this);
     makeActions(dialog);
 }
 
