@@ -149,6 +149,12 @@ bool isInContents(const QMap<int, QVariant> &item)
         == *static_cast<const QString *>(shown->constData());
 }
 
+/// As QVariant has it, which takes its time to say so of what is nearly always there.
+bool isNull(const QVariant &value)
+{
+    return !value.isValid() || (value.userType() < QMetaType::User && value.isNull());
+}
+
 } // namespace
 
 ListContents fromComboBox(Vexa::ComboBox *comboBox)
@@ -157,20 +163,23 @@ ListContents fromComboBox(Vexa::ComboBox *comboBox)
         return {};
     const int count = comboBox->count();
     const QStringList actions = comboBox->actionList();
+    const QAbstractItemModel *model = comboBox->model();
+    const QModelIndex root = comboBox->rootModelIndex();
     ListContents contents;
     contents.reserve(count);
     for (int index = 0; index < count; ++index) {
-        const QVariant text = comboBox->itemData(index, ItemRole::Text);
-        if (text.isNull())
+        const QModelIndex item = model->index(index, comboBox->modelColumn(), root);
+        const QVariant text = item.data(ItemRole::Text);
+        if (isNull(text))
             continue;
         ItemData entry;
         entry.setValue(ItemRole::Text, text);
-        const QVariant icon = comboBox->itemData(index, ItemRole::Icon);
-        if (!icon.isNull())
+        const QVariant icon = item.data(ItemRole::Icon);
+        if (!isNull(icon))
             entry.setValue(ItemRole::Icon, icon);
         if (index < actions.size())
             entry.setText(ItemRole::Action, actions.at(index));
-        contents.append(entry);
+        contents.append(std::move(entry));
     }
     return contents;
 }

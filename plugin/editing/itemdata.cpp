@@ -101,6 +101,10 @@ void ItemData::setValue(int role, const QVariant &value)
     const bool known = find(role);
     if (!known && !value.isValid())
         return;
+    if (m_fields.isEmpty()) { // most entries have one field: no more room than for that
+        m_fields = {Field{role, value}};
+        return;
+    }
     const auto it = std::lower_bound(m_fields.begin(), m_fields.end(), role, roleLess);
     if (!known)
         m_fields.insert(it, Field{role, value});

@@ -22,6 +22,15 @@ namespace qdesigner_internal {
     = {QT_TRANSLATE_NOOP("qdesigner_internal::ItemListEditor", "Properties &>>"),
         QT_TRANSLATE_NOOP("qdesigner_internal::ItemListEditor", "Properties &<<")};
 
+/// One of Designer's icons, read once: reading those of the four buttons took a fifth of the time in which a
+/// dialog opens.
+static QIcon buttonIcon(const QString &file)
+{
+    static QHash<QString, QIcon> icons;
+    const auto known = icons.constFind(file);
+    return known != icons.constEnd() ? *known : *icons.insert(file, createIconSet(file));
+}
+
 ItemListEditor::ItemListEditor(QDesignerFormWindowInterface *form, QWidget *parent)
     : AbstractItemEditor(form, parent)
     , m_ui(std::make_unique<Ui::ItemListEditor>())
@@ -40,10 +49,10 @@ ItemListEditor::ItemListEditor(QDesignerFormWindowInterface *form, QWidget *pare
     connect(m_ui->showPropertiesButton, SIGNAL(clicked()), this, SLOT(togglePropertyBrowser()));
     setPropertyBrowserVisible(false, m_ui->showPropertiesButton);
 
-    m_ui->moveListItemUpButton->setIcon(createIconSet(QStringLiteral("up.png")));
-    m_ui->moveListItemDownButton->setIcon(createIconSet(QStringLiteral("down.png")));
-    m_ui->deleteListItemButton->setIcon(createIconSet(QStringLiteral("minus.png")));
-    m_ui->newListItemButton->setIcon(createIconSet(QStringLiteral("plus.png")));
+    m_ui->moveListItemUpButton->setIcon(buttonIcon(QStringLiteral("up.png")));
+    m_ui->moveListItemDownButton->setIcon(buttonIcon(QStringLiteral("down.png")));
+    m_ui->deleteListItemButton->setIcon(buttonIcon(QStringLiteral("minus.png")));
+    m_ui->newListItemButton->setIcon(buttonIcon(QStringLiteral("plus.png")));
     makeActions();
 }
 

@@ -36,20 +36,14 @@ public:
 
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        if (index.row() >= m_sizes.size())
+        if (index.row() >= m_sizes.size() || !m_estimate.isValid())
             return QStyledItemDelegate::sizeHint(option, index);
         const QSize size = m_sizes.at(index.row());
-        if (size.isValid())
-            return size;
-        if (m_allowance == 0)
-            return m_estimate;
-        --m_allowance;
-        measure(option, index);
-        return m_sizes.at(index.row());
+        return size.isValid() ? size : m_estimate;
     }
 
     /// Measures a row that is not measured yet; true if its size is not what sizeHint() said until now.
-    bool measure(const QStyleOptionViewItem &option, const QModelIndex &index) const
+    bool measure(const QStyleOptionViewItem &option, const QModelIndex &index)
     {
         QSize &size = m_sizes[index.row()];
         if (size.isValid())
@@ -59,9 +53,6 @@ public:
             m_estimate = size;
         return size != m_estimate;
     }
-
-    /// sizeHint() measures up to \a count more rows, then it estimates.
-    void setAllowance(int count) { m_allowance = count; }
 
     /// The first unmeasured row, the number of rows if there is none.
     int firstUnmeasured()
@@ -95,9 +86,8 @@ public:
     }
 
 private:
-    mutable QVector<QSize> m_sizes;
-    mutable QSize m_estimate;
-    mutable int m_allowance = 0;
+    QVector<QSize> m_sizes;
+    QSize m_estimate; // the first that was measured
     int m_measured = 0; // no row before it is unmeasured
 };
 
@@ -117,10 +107,8 @@ ItemListWidget::ItemListWidget(QWidget *parent)
 
 void ItemListWidget::doItemsLayout()
 {
-    m_sizes->setAllowance(rowsPerStep);
+    measureRows(0, rowsPerStep / 2);
     QListWidget::doItemsLayout();
-    m_sizes->setAllowance(0);
-    m_measureTimer.start(0, this);
 }
 
 void ItemListWidget::scrollTo(const QModelIndex &index, ScrollHint hint)
@@ -172,6 +160,8 @@ void ItemListWidget::paintEvent(QPaintEvent *event)
     while (measureVisibleRows())
         doItemsLayout();
     QListWidget::paintEvent(event);
+    if (m_sizes->firstUnmeasured() < count())
+        m_measureTimer.start(0, this);
 }
 
 void ItemListWidget::timerEvent(QTimerEvent *event)
