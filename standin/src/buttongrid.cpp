@@ -69,7 +69,10 @@ void ButtonGrid::schedule()
 {
     m_stale = true;
     updateGeometry();
-    QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+    // Qt looks through all events that wait for one like this, and on a form that opens there are thousands.
+    if (!m_scheduled)
+        QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+    m_scheduled = true;
 }
 
 QAbstractButton *ButtonGrid::button(int index)
@@ -260,6 +263,7 @@ void ButtonGrid::place()
 bool ButtonGrid::event(QEvent *event)
 {
     if (event->type() == QEvent::LayoutRequest) {
+        m_scheduled = false;
         refresh();
         return true;
     }

@@ -83,6 +83,7 @@ private:
     int m_columns = 0;
     std::optional<int> m_checkedIndex; ///< nothing for a grid that is not one choice
     bool m_stale = false;
+    bool m_scheduled = false;
     bool m_iconsStale = false;
     bool m_iconsAwaited = false; ///< missing icons were looked for again
 };
