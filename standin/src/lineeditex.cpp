@@ -87,10 +87,10 @@ CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)
     , m_comboBox(new QComboBox(this))
     , m_model(new ItemListModel(true, this))
 {
+    m_comboBox->setModel(m_model);
     // Without the measuring of every text, which would make a long list slow to show.
     m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_comboBox->setMinimumContentsLength(8);
-    m_comboBox->setModel(m_model);
     m_comboBox->setEditable(true);
     m_comboBox->lineEdit()->setReadOnly(true);
     m_comboBox->setCompleter(nullptr);

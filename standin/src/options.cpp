@@ -146,10 +146,10 @@ OptionComboBox::OptionComboBox(QWidget *parent)
     , m_comboBox(new ItemsBox(this))
     , m_model(new ItemListModel(false, this))
 {
+    m_comboBox->setModel(m_model);
     // Without the measuring of every text, which would make a long list slow to show.
     m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_comboBox->setMinimumContentsLength(8);
-    m_comboBox->setModel(m_model);
     addField(m_comboBox, 1);
     connect(m_comboBox, QOverload<int>::of(&QComboBox::activated), this, &OptionComboBox::setCurrentIndex);
 }
