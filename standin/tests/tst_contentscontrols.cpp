@@ -135,6 +135,12 @@ private slots:
         grid.setTextList(numbered(3000));
         QVERIFY(!grid.button(99));
         QCOMPARE(grid.button(1000)->text(), QStringLiteral("1000"));
+        // What is on the screen follows by itself, whenever it has to.
+        const QAbstractButton *first = grid.button(0);
+        for (const auto &[columns, width] : {std::pair(2u, 149), {4u, 73}}) {
+            grid.setColumn(columns);
+            QTRY_COMPARE(first->width(), width);
+        }
     }
 
     void gridReportsWhatWasSetAndMakesAtMost99By99_data() { addRows(gridSizes); }
