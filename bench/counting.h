@@ -13,8 +13,8 @@ bool isCounting();
 void restartCount();
 double countedSinceRestart();
 
-/// While it lives nothing is counted, which takes a tenth of the time; coming and going take seconds. One that is
-/// not \a wanted does nothing.
+/// While it lives nothing is counted, which takes a tenth of the time; coming and going take seconds. One
+/// that is not \a wanted does nothing.
 class Uncounted {
 public:
     explicit Uncounted(bool wanted);

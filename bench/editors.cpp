@@ -263,7 +263,8 @@ void measureLists(DesignerHost &host, Report &report, const Effort &effort)
         Contestant ours{host, QStringLiteral("Vexa::ComboBox"), QStringLiteral("Edit Items"), fillComboBox};
         Contestant theirs{host, QStringLiteral("QComboBox"), QStringLiteral("Edit Items..."), fillComboBox};
         const bool largest = size.count == 100000;
-        compete(ours, theirs, size.count, largest && effort.quick ? qMin(2, effort.rounds) : effort.rounds, editInPlace);
+        compete(ours, theirs, size.count, largest && effort.quick ? qMin(2, effort.rounds) : effort.rounds,
+            editInPlace);
         const auto compare = [&](const char *what, const QString &key, const QString &unit, Target target) {
             report.ratio(QLatin1String(what), unit, ours.samples[key], theirs.samples[key], target);
         };

@@ -7,9 +7,9 @@
 
 namespace {
 
-/// Keeps from the control it watches, and so from its children, that a modal dialog comes and goes and that the
-/// window is active no longer. On a form they take no input anyway, and there may be ten thousand of them to
-/// tell, where one repaint of all does the same.
+/// Keeps from the control it watches, and so from its children, that a modal dialog comes and goes and that
+/// the window is active no longer. On a form they take no input anyway, and there may be ten thousand of them
+/// to tell, where one repaint of all does the same.
 class ModalityFilter final : public QObject {
 public:
     bool eventFilter(QObject *watched, QEvent *event) override

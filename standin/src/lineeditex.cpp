@@ -3,12 +3,12 @@
 
 #include "fieldfocus.h"
 #include "itemlistmodel.h"
+#include "itemsbox.h"
 
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QBoxLayout>
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QToolButton>
@@ -82,20 +82,32 @@ void LineEditBtn::placeButton()
     setTextMargins(isRightToLeft() ? width : 0, 0, isRightToLeft() ? 0 : width, 0);
 }
 
+namespace {
+
+/// Has its parent watch the list when there is one.
+class CheckList final : public ItemsBox {
+public:
+    using ItemsBox::ItemsBox;
+
+    void showPopup() override
+    {
+        view()->viewport()->installEventFilter(parentWidget());
+        ItemsBox::showPopup();
+    }
+};
+
+} // namespace
+
 CheckableTextComboBox::CheckableTextComboBox(QWidget *parent)
     : QWidget(parent)
-    , m_comboBox(new QComboBox(this))
+    , m_comboBox(new CheckList(this))
     , m_model(new ItemListModel(true, this))
 {
     m_comboBox->setModel(m_model);
-    // Without the measuring of every text, which would make a long list slow to show.
-    m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_comboBox->setMinimumContentsLength(8);
     m_comboBox->setEditable(true);
     m_comboBox->lineEdit()->setReadOnly(true);
     m_comboBox->setCompleter(nullptr);
     m_comboBox->setInsertPolicy(QComboBox::NoInsert);
-    m_comboBox->view()->viewport()->installEventFilter(this);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_comboBox);

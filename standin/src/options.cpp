@@ -7,11 +7,11 @@
 #include "buttongrid.h"
 #include "icons.h"
 #include "itemlistmodel.h"
+#include "itemsbox.h"
 #include "surroundings.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QCheckBox>
-#include <QtWidgets/QComboBox>
 #include <QtWidgets/QLayout>
 #include <QtWidgets/QRadioButton>
 #include <QtWidgets/QStyleOption>
@@ -37,14 +37,14 @@ QAbstractButton *makeToggle(QWidget *parent)
 QAbstractButton *makeRadio(QWidget *parent) { return new QRadioButton(parent); }
 
 /// Says to whoever edits the form that items are to come, as a grid does of buttons.
-class ItemsBox : public QComboBox {
+class OptionsBox final : public ItemsBox {
 public:
-    using QComboBox::QComboBox;
+    using ItemsBox::ItemsBox;
 
 protected:
     void paintEvent(QPaintEvent *event) override
     {
-        QComboBox::paintEvent(event);
+        ItemsBox::paintEvent(event);
         if (count() > 0 || !isEdited(this))
             return;
         QStyleOptionComboBox option;
@@ -143,13 +143,10 @@ void OptionRadios::showCurrentIndex() { m_grid->setCheckedIndex(currentIndex());
 
 OptionComboBox::OptionComboBox(QWidget *parent)
     : AbstractOptions(tr("Option"), parent)
-    , m_comboBox(new ItemsBox(this))
+    , m_comboBox(new OptionsBox(this))
     , m_model(new ItemListModel(false, this))
 {
     m_comboBox->setModel(m_model);
-    // Without the measuring of every text, which would make a long list slow to show.
-    m_comboBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_comboBox->setMinimumContentsLength(8);
     addField(m_comboBox, 1);
     connect(m_comboBox, QOverload<int>::of(&QComboBox::activated), this, &OptionComboBox::setCurrentIndex);
 }
