@@ -114,6 +114,22 @@ private slots:
         QCOMPARE(radios.findChildren<QAbstractButton *>().size(), 1000);
     }
 
+    void clickInTheListChecksAndLeavesItOpen()
+    {
+        m_log->allow(QStringLiteral("This plugin does not support .*")); // the offscreen platform, of windows
+        CheckableTextComboBox box;
+        box.setItemTextList(words("a b"));
+        box.show();
+        auto *list = box.findChild<QComboBox *>();
+        for (const bool checked : {true, false}) {
+            list->showPopup();
+            const QPoint second = list->view()->visualRect(list->model()->index(1, 0)).center();
+            QTest::mouseClick(list->view()->viewport(), Qt::LeftButton, {}, second);
+            QCOMPARE(box.isItemChecked(1), checked);
+            QVERIFY(list->view()->isVisible());
+        }
+    }
+
     void gridIsRowMajor()
     {
         MatrixPushButtons grid;
