@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "itemsbox.h"
 
+#include "qtversions.h"
+
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QStyleOptionComboBox>
 
@@ -18,7 +20,7 @@ constexpr int margin = 1;
 QSize ItemsBox::sizeHint() const
 {
     ensurePolished();
-    const int textWidth = characters * fontMetrics().horizontalAdvance(QLatin1Char('X'));
+    const int textWidth = characters * characterWidth(fontMetrics(), QLatin1Char('X'));
     const int textHeight = std::max(fontMetrics().height(), lowestText);
     const QSize contents(
         textWidth + iconSpacing + iconSize().width(), std::max(textHeight, iconSize().height()) + 2 * margin);
