@@ -10,8 +10,6 @@
 #include <sorrel/SrMatrixButtons.h>
 #include <sorrel/SrMatrixPopButtons.h>
 
-#include <private/qdesigner_utils_p.h>
-
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QScreen>
@@ -22,7 +20,6 @@
 #include <utility>
 
 using qdesigner_internal::DesignerPropertyManager;
-using qdesigner_internal::PropertySheetStringValue;
 
 namespace {
 
