@@ -15,6 +15,7 @@
 #include <QtGui/QStandardItemModel>
 
 #include <algorithm>
+#include <utility>
 
 using qdesigner_internal::PropertySheetIconValue;
 using qdesigner_internal::PropertySheetStringValue;

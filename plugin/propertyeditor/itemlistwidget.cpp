@@ -107,7 +107,7 @@ ItemListWidget::ItemListWidget(QWidget *parent)
 
 void ItemListWidget::doItemsLayout()
 {
-    measureRows(0, rowsPerStep / 2);
+    measureRows(0, rowsPerStep / 2); // what is seen first, and the size that the others are taken to have
     QListWidget::doItemsLayout();
 }
 
